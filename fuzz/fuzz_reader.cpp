@@ -1,0 +1,20 @@
+// The whole reader over arbitrary bytes: both passes, every grammar, fragment wrapping.
+// Copying and comparing the result exercises the tree's value semantics as well.
+#include <cstdint>
+#include <cstdlib>
+#include <string_view>
+
+#include "SVGParser/Describe.h"
+#include "SVGParser/SVGParser.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string_view text(reinterpret_cast<const char*>(data), size);
+  std::size_t lines = 0;
+  const SVGParser::Report report([&lines](std::string_view) { ++lines; });
+  if (auto svg = SVGParser::parse(text, report)) {
+    const SVG copy = *svg;
+    if (!(copy == *svg)) std::abort();
+    (void)SVGParser::describeTree(copy);
+  }
+  return 0;
+}
