@@ -22,9 +22,9 @@ build: configure
 test: build
 	ctest --preset $(PRESET) -j $(JOBS)
 
-# The main job: read the default document and print its object tree.
+# The main job: convert the default document to SwiftUI source.
 run: build
-	$(CLI) parse samples/default.svg
+	$(CLI) convert samples/default.svg
 
 asan-test:
 	$(MAKE) test PRESET=asan

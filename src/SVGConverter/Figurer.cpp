@@ -92,7 +92,9 @@ ContainerViewType SVGSwiftUIFigurer::convert(const SVG& svg, std::string_view na
       !name.empty() ? std::string(name) : makeTypeName(groupIDs, svg.core.id, NameCase::type);
 
   auto definitions = convertDefinitions(svg.definitions);
-  auto scope = svgDefsStack.empty() ? DefinitionScope{} : svgDefsStack.back();
+  // The scope holds only this element's definitions; lookups go on outward, which gives the
+  // same answers as a copy of the enclosing scope without the cost of one per `svg`.
+  DefinitionScope scope;
   for (const auto& [svgID, definition] : definitions) {
     scope.insert_or_assign(
         svgID, ScopedDefinition{container.typeName + "." + definition.name(), definition});

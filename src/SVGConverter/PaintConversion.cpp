@@ -92,10 +92,11 @@ std::optional<Paint> SVGSwiftUIFigurer::convertPaint(const std::optional<SVG::Pa
 
 const SVGSwiftUIFigurer::ScopedDefinition* SVGSwiftUIFigurer::lookupDefinition(
     std::string_view id) const {
-  if (svgDefsStack.empty()) return nullptr;
-  const auto& scope = svgDefsStack.back();
-  const auto found = scope.find(id);
-  return found == scope.end() ? nullptr : &found->second;
+  for (auto scope = svgDefsStack.rbegin(); scope != svgDefsStack.rend(); ++scope) {
+    const auto found = scope->find(id);
+    if (found != scope->end()) return &found->second;
+  }
+  return nullptr;
 }
 
 std::vector<std::pair<std::string, SwiftUIModel::Definition>> SVGSwiftUIFigurer::convertDefinitions(

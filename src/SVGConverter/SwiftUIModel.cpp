@@ -1,6 +1,7 @@
 #include "SVGConverter/SwiftUIModel.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace SwiftUIModel {
 
@@ -12,6 +13,7 @@ struct FilterGroup::Node {
   BlendMode mode = BlendMode::normal;
   bool empty = false;
   std::size_t depth = 1;
+  std::size_t size = 1;
 };
 
 namespace {
@@ -27,12 +29,25 @@ std::size_t deepestInput(const std::vector<FilterGroup>& inputs) {
   return deepest;
 }
 
+std::size_t saturatingSum(std::size_t a, std::size_t b) {
+  return a > std::numeric_limits<std::size_t>::max() - b ? std::numeric_limits<std::size_t>::max()
+                                                         : a + b;
+}
+
+// The group itself, its effects and each input as often as it is used.
+std::size_t expandedSize(const std::vector<FilterGroup>& inputs, std::size_t effects) {
+  std::size_t size = saturatingSum(1, effects);
+  for (const auto& input : inputs) size = saturatingSum(size, input.expandedSize());
+  return size;
+}
+
 }  // namespace
 
 FilterGroup FilterGroup::merge(std::vector<FilterGroup> inputs) {
   auto node = std::make_shared<Node>();
   node->empty = inputs.empty();
   node->depth = deepestInput(inputs) + 1;
+  node->size = expandedSize(inputs, 0);
   node->inputs = std::move(inputs);
   FilterGroup group;
   group.kind_ = Kind::merge;
@@ -45,6 +60,7 @@ FilterGroup FilterGroup::blend(FilterGroup input, FilterGroup input2, BlendMode 
   node->inputs = {std::move(input), std::move(input2)};
   node->mode = mode;
   node->depth = deepestInput(node->inputs) + 1;
+  node->size = expandedSize(node->inputs, 0);
   FilterGroup group;
   group.kind_ = Kind::blend;
   group.node_ = std::move(node);
@@ -57,9 +73,26 @@ FilterGroup FilterGroup::primitive(FilterGroup input, std::vector<Primitive> pri
   node->depth = input.depth() + 1;
   node->inputs = {std::move(input)};
   node->primitives = std::move(primitives);
+  node->size = expandedSize(node->inputs, node->primitives.size());
   FilterGroup group;
   group.kind_ = Kind::primitive;
   group.node_ = std::move(node);
+  return group;
+}
+
+FilterGroup FilterGroup::appending(FilterGroup group, Primitive primitive) {
+  if (group.kind_ != Kind::primitive || !group.node_) {
+    return FilterGroup::primitive(std::move(group), {std::move(primitive)});
+  }
+  if (group.node_.use_count() != 1) {
+    auto copy = std::make_shared<Node>(*group.node_);
+    group.node_ = std::move(copy);
+  }
+  // Every node is made non-const by make_shared, and this copy is the only one that sees it.
+  auto& node = const_cast<Node&>(*group.node_);
+  node.primitives.push_back(std::move(primitive));
+  node.empty = false;
+  node.size = saturatingSum(node.size, 1);
   return group;
 }
 
@@ -102,6 +135,10 @@ std::size_t FilterGroup::depth() const {
   return node_ ? node_->depth : 1;
 }
 
+std::size_t FilterGroup::expandedSize() const {
+  return node_ ? node_->size : 1;
+}
+
 // Shared inputs compare by identity first, so comparing a group with its own copy costs
 // nothing however often the filter reuses a result.
 bool FilterGroup::operator==(const FilterGroup& other) const {
@@ -137,6 +174,18 @@ const std::string& Subview::typeName() const {
         }
       },
       value);
+}
+
+bool Subview::operator==(const Subview& other) const {
+  return kind == other.kind && value == other.value;
+}
+
+bool ContainerViewType::operator==(const ContainerViewType& other) const {
+  return typeName == other.typeName && origin == other.origin &&
+         intrinsicSize == other.intrinsicSize && viewBox == other.viewBox &&
+         resizable == other.resizable && childTypes == other.childTypes &&
+         definitions == other.definitions && filterModifier == other.filterModifier &&
+         transform == other.transform;
 }
 
 }  // namespace SwiftUIModel

@@ -1,5 +1,10 @@
 #include "TextUtilities.h"
 
+#include <unicode/ustring.h>
+#include <unicode/utf16.h>
+#include <unicode/utf8.h>
+
+#include <array>
 #include <charconv>
 
 namespace SVGParser::text {
@@ -52,6 +57,32 @@ std::size_t whitespaceBefore(std::string_view s, std::size_t end) {
     return decoded == len && isWhitespaceOrNewline(c) ? len : 0;
   }
   return 0;
+}
+
+// Appends the full lower-case mapping of one scalar taken by itself, as "İ" to "i̇". Without
+// context a capital sigma always becomes "σ": letters are mapped one by one, not as words.
+bool appendLowercase(std::string& out, char32_t c) {
+  if (c > 0x10FFFF || (c >= 0xD800 && c <= 0xDFFF)) return false;
+  std::array<UChar, 2> source{};
+  int32_t sourceLength = 0;
+  UBool failed = false;
+  U16_APPEND(source.data(), sourceLength, 2, static_cast<UChar32>(c), failed);
+  if (failed) return false;
+  std::array<UChar, 8> lower{};
+  UErrorCode status = U_ZERO_ERROR;
+  const int32_t lowerLength = u_strToLower(lower.data(), static_cast<int32_t>(lower.size()),
+                                           source.data(), sourceLength, "", &status);
+  if (U_FAILURE(status) || lowerLength > static_cast<int32_t>(lower.size())) return false;
+  for (int32_t k = 0; k < lowerLength;) {
+    UChar32 scalar = 0;
+    U16_NEXT(lower.data(), k, lowerLength, scalar);
+    std::array<char, 4> bytes{};
+    int32_t byteLength = 0;
+    U8_APPEND(reinterpret_cast<std::uint8_t*>(bytes.data()), byteLength, 4, scalar, failed);
+    if (failed) return false;
+    out.append(bytes.data(), static_cast<std::size_t>(byteLength));
+  }
+  return true;
 }
 
 }  // namespace
@@ -121,9 +152,19 @@ std::vector<std::string_view> splitWhitespace(std::string_view s) {
 }
 
 std::string lowercased(std::string_view s) {
-  std::string out(s);
-  for (char& c : out) {
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  std::string out;
+  out.reserve(s.size());
+  for (std::size_t i = 0; i < s.size();) {
+    const auto b = static_cast<unsigned char>(s[i]);
+    if (b < 0x80) {
+      out += b >= 'A' && b <= 'Z' ? static_cast<char>(b - 'A' + 'a') : static_cast<char>(b);
+      ++i;
+      continue;
+    }
+    std::size_t length = 0;
+    const char32_t c = decodeAt(s, i, length);
+    if (!appendLowercase(out, c)) out.append(s.substr(i, length));
+    i += length;
   }
   return out;
 }

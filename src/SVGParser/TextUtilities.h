@@ -24,7 +24,8 @@ std::vector<std::string_view> splitAny(std::string_view text, std::string_view s
 // Cuts at every run of whitespace and newlines, dropping empty pieces.
 std::vector<std::string_view> splitWhitespace(std::string_view text);
 
-// Lower-cases ASCII letters; other bytes are kept.
+// Lower-cases every letter by its full Unicode mapping, one scalar at a time; bytes that are
+// no UTF-8 are kept.
 std::string lowercased(std::string_view text);
 std::string uppercased(std::string_view text);
 

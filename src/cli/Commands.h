@@ -9,5 +9,10 @@ void addParseCommand(CLI::App& app);
 void addModelCommand(CLI::App& app);
 void addHighlightCommand(CLI::App& app);
 void addPreviewCommand(CLI::App& app);
+void addConvertCommand(CLI::App& app);
+void addInspectCommand(CLI::App& app);
+void addNewCommand(CLI::App& app);
+void addConfigCommand(CLI::App& app);
+void addSamplesCommand(CLI::App& app);
 
 }  // namespace svgfigurer::cli

@@ -11,6 +11,11 @@ int main(int argc, char** argv) {
   svgfigurer::cli::addModelCommand(app);
   svgfigurer::cli::addHighlightCommand(app);
   svgfigurer::cli::addPreviewCommand(app);
+  svgfigurer::cli::addConvertCommand(app);
+  svgfigurer::cli::addInspectCommand(app);
+  svgfigurer::cli::addNewCommand(app);
+  svgfigurer::cli::addConfigCommand(app);
+  svgfigurer::cli::addSamplesCommand(app);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

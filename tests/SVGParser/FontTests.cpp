@@ -188,6 +188,8 @@ INSTANTIATE_TEST_SUITE_P(Rows, FontParse, testing::ValuesIn(std::vector<FontRow>
     {"IntegerAfterFamilyIsASize", "serif 12", font(serif, upright, normal, num(12)), {}},
     {"LoneWordIsReportedThenAFamily", "Arial", font(named("arial"), upright, normal, {}),
      {unitError("arial")}},
+    {"FamilyLowerCasedBeyondAscii", "12px \xc3\x89LAN",
+     font(named("\xc3\xa9lan"), upright, normal, px(12)), {}},
     {"MultiWordFamilyKeepsFirstWord", "12px Helvetica Neue",
      font(named("helvetica"), upright, normal, px(12)), {fontWarning("neue")}},
     {"WordAfterKeywordFamilyWarns", "monospace 12px arial",

@@ -54,6 +54,19 @@ TEST(SplitTest, AListOfMoreThanAHundredNamesKeepsTheRemainderWhole) {
   EXPECT_EQ(pieces[100], " c100  c101  c102  ");
 }
 
+TEST(LowercasedTest, MapsEveryLetterByItselfAndKeepsBrokenBytes) {
+  const std::pair<std::string_view, std::string_view> rows[] = {
+      {"RED Blue", "red blue"},
+      {"\xc3\x80" "BC", "\xc3\xa0" "bc"},                  // À is a letter like any other
+      {"\xc4\xb0", "i\xcc\x87"},                          // İ takes its full mapping
+      {"\xce\xa3\xce\x91\xce\xa3", "\xcf\x83\xce\xb1\xcf\x83"},  // no final sigma
+      {"\xe2\x84\xaa", "k"},                               // Kelvin sign
+      {"\xf0\x90\x90\x80", "\xf0\x90\x90\xa8"},             // Deseret, outside the BMP
+      {"A\xff" "B\xc3", "a\xff" "b\xc3"},
+  };
+  for (const auto& [input, expected] : rows) EXPECT_EQ(lowercased(input), expected) << input;
+}
+
 TEST(IntegerTest, AcceptsOnlyWholeBase10Numbers) {
   const std::pair<std::string_view, std::optional<std::int64_t>> rows[] = {
       {"12", 12},

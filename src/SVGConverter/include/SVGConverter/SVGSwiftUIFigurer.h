@@ -25,6 +25,10 @@ class SVGSwiftUIFigurer {
   static constexpr std::size_t maximumNesting = 256;
   // Filter graphs deeper than this drop the primitive that would make them deeper.
   static constexpr std::size_t maximumFilterDepth = 256;
+  // Likewise for graphs whose written-out form (a reused result repeated at each use) would
+  // hold more groups and effects than this: doubling a result a few dozen times would
+  // otherwise ask the writer for more text than any memory holds.
+  static constexpr std::size_t maximumFilterSize = 100000;
 
   // A frame of optional numbers, for elements whose frame is partly known.
   struct PointFrame {
@@ -82,7 +86,7 @@ class SVGSwiftUIFigurer {
   // an opacity. `opacity` is on the tree's scale of 0 to 100.
   std::optional<SwiftUIModel::Paint> convertPaint(const std::optional<SVG::Paint>& paint,
                                                   std::optional<double> opacity) const;
-  // The innermost scope's entry for an SVG id.
+  // The entry for an SVG id in the innermost scope that has one.
   const ScopedDefinition* lookupDefinition(std::string_view id) const;
   // The filter a merged `filter` attribute refers to, if it names one in scope.
   std::optional<SwiftUIModel::FilterModifierType> lookupFilter(
@@ -103,6 +107,7 @@ class SVGSwiftUIFigurer {
   SwiftUIModel::IDPool filterIDs{"Filter"};
   CGPoint lastTextPosition{0, 0};
   std::vector<CGSize> svgPointSizeStack;
+  // One scope per enclosing `svg`, innermost last, each with that element's own definitions.
   std::vector<DefinitionScope> svgDefsStack;
 
  private:

@@ -170,6 +170,10 @@ struct FilterModifierType {
     static FilterGroup primitive(FilterGroup input, std::vector<Primitive> primitives);
     static FilterGroup source() { return {}; }
     static FilterGroup sourceAlpha();
+    // A `primitive` group with one more effect at the end (any other kind becomes the input of
+    // a new one). A group that no other copy shares grows in place, so a long chain of effects
+    // is built in linear time.
+    static FilterGroup appending(FilterGroup group, Primitive primitive);
 
     Kind kind() const { return kind_; }
     // merge: every input; blend: input and input2; primitive: its input; otherwise empty.
@@ -185,6 +189,9 @@ struct FilterModifierType {
     bool isEmpty() const;
     // Levels of groups, 1 for a group without inputs.
     std::size_t depth() const;
+    // Groups and effects met by a walk that visits a shared input at each of its uses, as a
+    // writer does; it can grow far beyond the memory the group takes. Saturates.
+    std::size_t expandedSize() const;
 
     bool operator==(const FilterGroup& other) const;
 
@@ -318,7 +325,8 @@ struct Subview {
   std::variant<PathViewType, CircleViewType, EllipseViewType, RectangleViewType, Text,
                ContainerViewType>
       value;
-  bool operator==(const Subview&) const = default;
+  // Defined out of line: the recursive comparison is kept out of every includer.
+  bool operator==(const Subview&) const;
 
   static Subview path(PathViewType v) { return {Kind::path, std::move(v)}; }
   static Subview circle(CircleViewType v) { return {Kind::circle, std::move(v)}; }
@@ -331,7 +339,5 @@ struct Subview {
   // The view's type name; empty for text, which has none.
   const std::string& typeName() const;
 };
-
-inline bool ContainerViewType::operator==(const ContainerViewType&) const = default;
 
 }  // namespace SwiftUIModel

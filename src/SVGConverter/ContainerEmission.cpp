@@ -1,0 +1,290 @@
+// The inside of a container's view struct: statics, definitions, nested types, the resizing
+// support and the body, with the modifiers and position lines every view shares.
+#include <cmath>
+#include <numbers>
+#include <string>
+#include <type_traits>
+#include <variant>
+
+#include "Emitters.h"
+#include "SVGConverter/ValueLiterals.h"
+
+namespace SVGConverter {
+
+namespace {
+
+using SwiftUIModel::Subview;
+
+bool hasResizable(const ContainerViewType& c) {
+  return c.resizable.width.has_value() || c.resizable.height.has_value();
+}
+
+void appendPositionLines(CodeGenerationStream& s, const std::optional<CGPoint>& origin,
+                         const std::optional<CGSize>& size) {
+  const auto number = [&](const std::optional<double>& v, std::string_view unknown) {
+    return v ? s.numberString(*v) : std::string(unknown);
+  };
+  std::optional<double> x, y, w, h;
+  if (origin) x = origin->x, y = origin->y;
+  if (size) w = size->width, h = size->height;
+  if (w || h) {
+    s.appendLine(".frame(width: " + number(w, "nil") + ", height: " + number(h, "nil") +
+                 ", alignment: .topLeading)");
+  }
+  if (!s.config().positionUsingPadding && (x || y)) {
+    // An unknown coordinate stands at the parent's edge.
+    s.appendLine(".position(x: " + number(x, "0") + ", y: " + number(y, "0") + ")");
+    return;
+  }
+  if (x && *x != 0) s.appendLine(".padding(.leading, " + s.numberString(*x) + ")");
+  if (y && *y != 0) s.appendLine(".padding(.top, " + s.numberString(*y) + ")");
+}
+
+void appendChild(CodeGenerationStream& s, const Subview& child) {
+  if (const auto* text = std::get_if<SwiftUIModel::Text>(&child.value)) {
+    appendText(s, *text);
+    return;
+  }
+  s.appendLine(child.typeName() + "()");
+  s.indented(true, [&] {
+    std::visit(
+        [&](const auto& view) {
+          using T = std::decay_t<decltype(view)>;
+          if constexpr (std::is_same_v<T, ContainerViewType>) {
+            if (hasResizable(view)) s.appendLine(".resizable()");
+          }
+          if constexpr (!std::is_same_v<T, SwiftUIModel::Text>) {
+            appendPositionLines(s, view.origin, view.intrinsicSize);
+          }
+        },
+        child.value);
+  });
+}
+
+// The children, then the container's modifiers and `after`'s lines: one level in after a
+// single view, at the block's own level after a "ZStack" block.
+template <class After>
+void appendContent(CodeGenerationStream& s, const ContainerViewType& c, After&& after) {
+  const auto& children = c.childTypes;
+  if (children.empty()) {
+    s.appendLine("EmptyView()", std::nullopt, "Group w/o content");
+  } else if (children.size() == 1) {
+    appendChild(s, children.front());
+  } else {
+    s.appendBlock("ZStack(alignment: .topLeading)", std::nullopt, [&] {
+      for (const auto& child : children) appendChild(s, child);
+    });
+  }
+  s.indented(children.size() <= 1, [&] {
+    appendViewModifiers(s, c.filterModifier, c.transform, false);
+    after();
+  });
+}
+
+void appendViewBoxPadding(CodeGenerationStream& s) {
+  s.appendLine(".padding(.leading, Self.viewBox.minX)");
+  s.appendLine(".padding(.top,     Self.viewBox.minY)");
+}
+
+void appendViewBoxScaling(CodeGenerationStream& s, bool needsOffset) {
+  s.appendLine(".frame(width: Self.viewBox.width, height: Self.viewBox.height,");
+  s.appendLine("       alignment: .topLeading)");
+  if (needsOffset) appendViewBoxPadding(s);
+  s.appendLine(".scaleEffect(x: proxy.size.width  / Self.viewBox.width,");
+  s.appendLine("             y: proxy.size.height / Self.viewBox.height)");
+  s.appendLine(".frame(width: proxy.size.width, height: proxy.size.height)");
+}
+
+void appendFixedFrame(CodeGenerationStream& s, const CGSize& size, bool padding) {
+  if (padding) appendViewBoxPadding(s);
+  s.appendLine(".frame(width: " + s.numberString(size.width) +
+               ", height: " + s.numberString(size.height) + ")");
+}
+
+void appendProxyScaling(CodeGenerationStream& s, const SwiftUIModel::Resizable& resizable) {
+  if (!resizable.width && !resizable.height) {
+    s.appendLine(".frame(width: proxy.size.width, height: proxy.size.height,");
+    s.appendLine("       alignment: .topLeading)");
+    return;
+  }
+  const std::string w = resizable.width ? s.numberString(*resizable.width) : "proxy.size.width";
+  const std::string h = resizable.height ? s.numberString(*resizable.height) : "proxy.size.height";
+  s.appendLine(".frame(width: " + w + ", height: " + h + ",");
+  s.appendLine("       alignment: .topLeading)");
+  s.appendLine(".scaleEffect(x: " + (resizable.width ? "proxy.size.width  / " + w : "1.0") + ",");
+  s.appendLine("             y: " + (resizable.height ? "proxy.size.height / " + h : "1.0") + ")");
+  s.appendLine(".frame(width: proxy.size.width, height: proxy.size.height)");
+}
+
+void appendBody(CodeGenerationStream& s, const ContainerViewType& c) {
+  const auto& viewBox = c.viewBox;
+  const bool resizable = hasResizable(c);
+  const bool needsOffset = viewBox && (viewBox->origin.x != 0 || viewBox->origin.y != 0);
+  const auto fixedFrame = [&](bool padding) {
+    if (c.intrinsicSize) appendFixedFrame(s, *c.intrinsicSize, padding);
+  };
+  const auto geometryReader = [&](auto&& scaling) {
+    s.appendBlock("GeometryReader { proxy in", std::nullopt,
+                  [&] { appendContent(s, c, scaling); });
+  };
+  const auto viewBoxScaling = [&] { appendViewBoxScaling(s, needsOffset); };
+
+  if (viewBox && !resizable) {
+    geometryReader(viewBoxScaling);
+  } else if (viewBox) {
+    s.appendBlock("if isResizable", std::nullopt, [&] { geometryReader(viewBoxScaling); });
+    s.appendBlock("else", std::nullopt,
+                  [&] { appendContent(s, c, [&] { fixedFrame(needsOffset); }); });
+  } else if (!resizable) {
+    appendContent(s, c, [&] { fixedFrame(false); });
+  } else {
+    s.appendBlock("if isResizable", std::nullopt,
+                  [&] { geometryReader([&] { appendProxyScaling(s, c.resizable); }); });
+    s.appendBlock("else", std::nullopt, [&] { appendContent(s, c, [&] { fixedFrame(false); }); });
+  }
+}
+
+void appendResizingMembersAndBody(CodeGenerationStream& s, const ContainerViewType& c) {
+  if (hasResizable(c)) {
+    s.appendBlankLine();
+    s.appendLine("var isResizable = false");
+    s.appendLine("func resizable() -> Self { Self(isResizable: true) }");
+  }
+  s.appendBlankLine();
+  s.appendBlock("var body: some View", std::nullopt, [&] { appendBody(s, c); });
+}
+
+void appendNestedTypes(CodeGenerationStream& s, const std::vector<Subview>& children,
+                       const SVGParser::Report& report);
+
+void appendGroupStruct(CodeGenerationStream& s, const ContainerViewType& group,
+                       const SVGParser::Report& report) {
+  s.appendBlock("struct " + group.typeName + ": View", std::nullopt, [&] {
+    s.appendInfoComment("Group");
+    appendNestedTypes(s, group.childTypes, report);
+    appendResizingMembersAndBody(s, group);
+  });
+}
+
+// Recursion follows the container nesting, which the conversion bounds.
+void appendNestedTypes(CodeGenerationStream& s, const std::vector<Subview>& children,
+                       const SVGParser::Report& report) {
+  for (const auto& child : children) {
+    if (child.kind == Subview::Kind::text) continue;
+    s.appendBlankLine();
+    switch (child.kind) {
+      case Subview::Kind::group:
+        appendGroupStruct(s, std::get<ContainerViewType>(child.value), report);
+        break;
+      case Subview::Kind::svg: {
+        const auto& svg = std::get<ContainerViewType>(child.value);
+        s.appendInfoComment("SVG");
+        s.appendBlock("struct " + svg.typeName + ": View", std::nullopt,
+                      [&] { appendContainerBody(s, svg, report); });
+        break;
+      }
+      default:
+        appendShapeStruct(s, child);
+    }
+  }
+}
+
+void appendDefinition(CodeGenerationStream& s, const SwiftUIModel::Definition& definition,
+                      const SVGParser::Report& report) {
+  const auto& config = s.config();
+  std::visit(
+      [&](const auto& d) {
+        using T = std::decay_t<decltype(d)>;
+        if constexpr (std::is_same_v<T, SwiftUIModel::LinearGradientProperty>) {
+          appendLinearGradient(s, d);
+        } else if constexpr (std::is_same_v<T, SwiftUIModel::RadialGradientProperty>) {
+          appendRadialGradient(s, d);
+        } else {
+          const bool skipped = !config.modifiersForInlinableFilters &&
+                               config.inlineFiltersIfPossible && isInlinable(d);
+          if (!skipped) appendFilterStruct(s, d, report);
+        }
+      },
+      definition.value);
+}
+
+}  // namespace
+
+bool appendStatics(CodeGenerationStream& s, const std::optional<CGPoint>& origin,
+                   const std::optional<CGSize>& size, bool forced) {
+  if (!forced && !s.config().frameAsProperty) return false;
+  if (size) {
+    s.appendBlankLine();
+    s.appendLine("static let intrinsicSize = " + sizeLiteral(s, *size, false));
+  } else if (origin) {
+    s.appendBlankLine();
+  }
+  if (origin) s.appendLine("static let origin        = " + pointLiteral(s, *origin, false));
+  return size || origin;
+}
+
+void appendViewModifiers(CodeGenerationStream& s, const std::optional<FilterModifierType>& filter,
+                         const std::vector<TransformStep>& transform, bool indent) {
+  s.indented(indent, [&] {
+    if (filter) {
+      if (s.config().inlineFiltersIfPossible && isInlinable(*filter)) {
+        appendFilterInline(s, *filter);
+      } else {
+        s.appendLine(".modifier(" + filter->typeName + "())");
+      }
+    }
+    for (const auto& step : transform) {
+      std::visit(
+          [&](const auto& v) {
+            using T = std::decay_t<decltype(v)>;
+            if constexpr (std::is_same_v<T, TransformStep::Translate>) {
+              s.appendLine(".offset(x: " + s.numberString(v.dx) + ", y: " + s.numberString(v.dy) +
+                           ")");
+            } else if constexpr (std::is_same_v<T, TransformStep::Rotate>) {
+              const double degrees = v.angle * 180 / std::numbers::pi;
+              s.appendLine(".rotationEffect(Angle(degrees: " + s.numberString(degrees) + "))");
+            } else if constexpr (std::is_same_v<T, TransformStep::Scale>) {
+              s.appendLine(".scaleEffect(x: " + s.numberString(v.x) + ", y: " + s.numberString(v.y) +
+                           ")");
+            } else {
+              s.appendLine(".transformEffect(" + firstStepText(s, step, false) + ")");
+            }
+          },
+          step.value);
+    }
+  });
+}
+
+void appendMultilineSteps(CodeGenerationStream& s, const std::vector<std::string>& steps) {
+  s.indented(true, [&] {
+    s.appendLine(steps.empty() ? ".identity" : steps.front());
+    s.indented(true, [&] {
+      for (std::size_t i = 1; i < steps.size(); ++i) s.appendLine(steps[i]);
+    });
+  });
+}
+
+void appendContainerBody(CodeGenerationStream& s, const ContainerViewType& c,
+                         const SVGParser::Report& report) {
+  const auto& config = s.config();
+  const bool wroteStatics = appendStatics(s, std::nullopt, c.intrinsicSize, true);
+  if (!wroteStatics && c.viewBox) s.appendBlankLine();
+  if (c.viewBox) s.appendLine("static let viewBox = " + rectLiteral(s, *c.viewBox, false));
+  if (config.infoComments && !c.definitions.empty() && config.modifierSectionComment) {
+    s.appendBlankLine();
+    s.appendInfoComment(*config.modifierSectionComment);
+  }
+  for (const auto& definition : c.definitions) {
+    // Written also ahead of a filter struct that turns out to be skipped.
+    s.appendBlankLine();
+    appendDefinition(s, definition, report);
+  }
+  if (config.infoComments && !c.childTypes.empty() && config.nestedViewsSectionComment) {
+    s.appendBlankLine();
+    s.appendInfoComment(*config.nestedViewsSectionComment);
+  }
+  appendNestedTypes(s, c.childTypes, report);
+  appendResizingMembersAndBody(s, c);
+}
+
+}  // namespace SVGConverter

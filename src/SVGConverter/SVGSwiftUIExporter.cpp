@@ -1,0 +1,112 @@
+// The whole generated file: import, root view, colour extension, preview provider.
+#include "SVGConverter/SVGSwiftUIExporter.h"
+
+#include <cmath>
+#include <limits>
+#include <optional>
+
+#include "CoreS/DoubleText.h"
+#include "Emitters.h"
+#include "SVGConverter/SVGSwiftUIFigurer.h"
+
+namespace SVGConverter {
+
+namespace {
+
+void appendColorExtension(CodeGenerationStream& s) {
+  s.appendBlock("fileprivate extension Color", std::nullopt, [&] {
+    s.appendBlock("init(_ rgb: UInt32, opacity: Double = 1.0)", std::nullopt, [&] {
+      s.appendLine("self.init(red     : Double((rgb >> 16) & 0xFF) / 255.0,");
+      s.appendLine("          green   : Double((rgb >>  8) & 0xFF) / 255.0,");
+      s.appendLine("          blue    : Double( rgb        & 0xFF) / 255.0,");
+      s.appendLine("          opacity : opacity)");
+    });
+  });
+}
+
+// How many times a small image is enlarged in the preview. A width that is zero, not finite
+// or beyond the integer range gets no factor rather than stopping the process.
+std::optional<long long> previewFactor(double width) {
+  if (!std::isfinite(width)) return std::nullopt;
+  const double truncated = std::trunc(width);
+  if (truncated < static_cast<double>(std::numeric_limits<long long>::min()) ||
+      truncated >= static_cast<double>(std::numeric_limits<long long>::max()) || truncated == 0) {
+    return std::nullopt;
+  }
+  const auto integer = static_cast<long long>(truncated);
+  if (integer > 200) return std::nullopt;
+  const long long factor = 240 / integer;
+  if (factor > 1) return factor;
+  return std::nullopt;
+}
+
+void appendPreviewFrame(CodeGenerationStream& s, const ContainerViewType& root) {
+  const auto& name = root.typeName;
+  if (root.intrinsicSize) {
+    const auto factor = previewFactor(root.intrinsicSize->width);
+    const std::string times = factor ? std::to_string(*factor) + " * " : "";
+    s.appendLine(".frame(width  : " + times + name + ".intrinsicSize.width,");
+    s.appendLine("       height : " + times + name + ".intrinsicSize.height)");
+  } else if (root.viewBox && root.viewBox->size.width < 1024 && root.viewBox->size.height < 1024) {
+    s.appendLine(".frame(width  : " + name + ".viewBox.width,");
+    s.appendLine("       height : " + name + ".viewBox.height)");
+  } else {
+    s.appendLine(".frame(width: 128, height: 128)");
+  }
+}
+
+void appendPreviewProvider(CodeGenerationStream& s, const ContainerViewType& root) {
+  const auto& name = root.typeName;
+  s.appendBlankLine();
+  s.appendBlock("struct " + name + "_Previews: PreviewProvider", std::nullopt, [&] {
+    s.appendBlankLine();
+    s.appendBlock("static var previews: some View", std::nullopt, [&] {
+      s.appendBlock("VStack", std::nullopt, [&] {
+        s.appendLine(name + "()");
+        s.indented(true, [&] {
+          if (root.resizable.width || root.resizable.height) s.appendLine(".resizable()");
+          appendPreviewFrame(s, root);
+          s.appendLine(".background(Color.clear.border(Color.green))");
+          s.appendLine(".padding()");
+        });
+        using CoreS::swiftDoubleDescription;
+        if (root.intrinsicSize) {
+          s.appendLine("Text(\"Size: " + swiftDoubleDescription(root.intrinsicSize->width) + "x" +
+                       swiftDoubleDescription(root.intrinsicSize->height) +
+                       "\").padding(.bottom)");
+        }
+        if (const auto& box = root.viewBox) {
+          s.appendLine("Text(\"ViewBox: " + swiftDoubleDescription(box->origin.x) + "," +
+                       swiftDoubleDescription(box->origin.y) + " " +
+                       swiftDoubleDescription(box->size.width) + "x" +
+                       swiftDoubleDescription(box->size.height) + "\").padding(.bottom)");
+        }
+      });
+    });
+  });
+}
+
+}  // namespace
+
+}  // namespace SVGConverter
+
+std::string SVGSwiftUIExporter::generate(const SVG& svg, const Config& config,
+                                         const SVGParser::Report& report) {
+  using namespace SVGConverter;
+  CodeGenerationStream s(config);
+  if (config.generateImport) {
+    s.appendLine("import SwiftUI");
+    s.appendBlankLine();
+  }
+  // The whole model is built before the first line of it is written.
+  const auto root = SVGSwiftUIFigurer::makeModel(svg, config.rootViewName, report);
+  s.appendInfoComment("SVG");
+  s.appendBlock("struct " + root.typeName + ": View", std::nullopt,
+                [&] { appendContainerBody(s, root, report); });
+  if (config.exportHexColorExtension && s.didUseHexColorInit) {
+    s.appendBlankLine();
+    appendColorExtension(s);
+  }
+  if (config.generatePreviewProvider) appendPreviewProvider(s, root);
+  return s.takeText();
+}
