@@ -16,7 +16,8 @@ using SVGFigurerApp::SVGFigurerConfiguration;
 class SilentLogger final : public CoreS::Logger {
  public:
   CoreS::LogLevel logLevel() const override { return CoreS::LogLevel::error; }
-  void primaryLog(CoreS::LogLevel, CoreS::MessageProducer, std::span<const CoreS::LogValue>) override {}
+  void primaryLog(CoreS::LogLevel, CoreS::MessageProducer,
+                  std::span<const CoreS::LogValue>) override {}
   std::string description() const override { return "SilentLogger"; }
 };
 
@@ -32,12 +33,15 @@ const std::string& iconSetSVG() {
       const int x = (i % 40) * 24;
       const int y = (i / 40) * 24;
       const double s = 1 + (i % 7) * 0.25;
-      svg += "<g id=\"icon" + std::to_string(i) + "\" transform=\"translate(" +
-             std::to_string(x) + " " + std::to_string(y) + ")\">\n";
-      svg += "  <path class=\"a\" d=\"M12 2c-3.3 0-6 2.7-6 6v5l-2 3v1h16v-1l-2-3v-5c0-3.3-2.7-6-6"
-             "-6zm-2 17h4c0 1.1-.9 2-2 2s-2-.9-2-2z\"/>\n";
-      svg += "  <path class=\"b\" d=\"M3 " + std::to_string(s) + "a9 9 0 1 0 18 0a9 9 0 1 0-18 "
-             "0zm9 4.5v" + std::to_string(s) + "l3.2 1.8\"/>\n";
+      svg += "<g id=\"icon" + std::to_string(i) + "\" transform=\"translate(" + std::to_string(x) +
+             " " + std::to_string(y) + ")\">\n";
+      svg +=
+          "  <path class=\"a\" d=\"M12 2c-3.3 0-6 2.7-6 6v5l-2 3v1h16v-1l-2-3v-5c0-3.3-2.7-6-6"
+          "-6zm-2 17h4c0 1.1-.9 2-2 2s-2-.9-2-2z\"/>\n";
+      svg += "  <path class=\"b\" d=\"M3 " + std::to_string(s) +
+             "a9 9 0 1 0 18 0a9 9 0 1 0-18 "
+             "0zm9 4.5v" +
+             std::to_string(s) + "l3.2 1.8\"/>\n";
       svg += "  <circle cx=\"18\" cy=\"6\" r=\"" + std::to_string(s) + "\" fill=\"red\"/>\n</g>\n";
     }
     return svg + "</svg>\n";
@@ -86,7 +90,9 @@ void BM_Rebuild_DefaultDocument(benchmark::State& state) {
 }
 BENCHMARK(BM_Rebuild_DefaultDocument)->Unit(benchmark::kMicrosecond);
 
-void BM_Rebuild_IconSet100KB(benchmark::State& state) { rebuildLatency(state, iconSetSVG()); }
+void BM_Rebuild_IconSet100KB(benchmark::State& state) {
+  rebuildLatency(state, iconSetSVG());
+}
 BENCHMARK(BM_Rebuild_IconSet100KB)->Unit(benchmark::kMillisecond);
 
 }  // namespace

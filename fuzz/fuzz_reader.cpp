@@ -1,5 +1,6 @@
 // The whole reader over arbitrary bytes: both passes, every grammar, fragment wrapping.
-// Copying and comparing the result exercises the tree's value semantics as well.
+// Copying the result and dumping both exercises the tree's value semantics as well (equality
+// cannot be the check: a tree that holds NaN is rightly unequal to itself).
 #include <cstdint>
 #include <cstdlib>
 #include <string_view>
@@ -13,8 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const SVGParser::Report report([&lines](std::string_view) { ++lines; });
   if (auto svg = SVGParser::parse(text, report)) {
     const SVG copy = *svg;
-    if (!(copy == *svg)) std::abort();
-    (void)SVGParser::describeTree(copy);
+    if (SVGParser::describeTree(copy) != SVGParser::describeTree(*svg)) std::abort();
   }
   return 0;
 }

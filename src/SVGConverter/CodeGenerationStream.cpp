@@ -25,7 +25,8 @@ void CodeGenerationStream::appendBlankLine() {
   swift_ += '\n';
 }
 
-void CodeGenerationStream::appendLine(std::string_view text, std::optional<std::string_view> comment,
+void CodeGenerationStream::appendLine(std::string_view text,
+                                      std::optional<std::string_view> comment,
                                       std::optional<std::string_view> info) {
   swift_ += prefix_;
   swift_ += text;

@@ -124,8 +124,7 @@ void appendBody(CodeGenerationStream& s, const ContainerViewType& c) {
     if (c.intrinsicSize) appendFixedFrame(s, *c.intrinsicSize, padding);
   };
   const auto geometryReader = [&](auto&& scaling) {
-    s.appendBlock("GeometryReader { proxy in", std::nullopt,
-                  [&] { appendContent(s, c, scaling); });
+    s.appendBlock("GeometryReader { proxy in", std::nullopt, [&] { appendContent(s, c, scaling); });
   };
   const auto viewBoxScaling = [&] { appendViewBoxScaling(s, needsOffset); };
 
@@ -244,8 +243,8 @@ void appendViewModifiers(CodeGenerationStream& s, const std::optional<FilterModi
               const double degrees = v.angle * 180 / std::numbers::pi;
               s.appendLine(".rotationEffect(Angle(degrees: " + s.numberString(degrees) + "))");
             } else if constexpr (std::is_same_v<T, TransformStep::Scale>) {
-              s.appendLine(".scaleEffect(x: " + s.numberString(v.x) + ", y: " + s.numberString(v.y) +
-                           ")");
+              s.appendLine(".scaleEffect(x: " + s.numberString(v.x) +
+                           ", y: " + s.numberString(v.y) + ")");
             } else {
               s.appendLine(".transformEffect(" + firstStepText(s, step, false) + ")");
             }

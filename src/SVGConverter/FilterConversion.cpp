@@ -49,8 +49,8 @@ FilterModifierType::Primitive::Shadow shadowOf(const Primitive::DropShadow& shad
 
 class FilterGraph {
  public:
-  FilterGraph(const SVGParser::Report& report, std::size_t maximumDepth, std::size_t maximumSize)
-      : report_(report), maximumDepth_(maximumDepth), maximumSize_(maximumSize) {}
+  FilterGraph(const SVGParser::Report& report, std::size_t maximumDepth)
+      : report_(report), maximumDepth_(maximumDepth) {}
 
   void add(const Primitive& primitive) {
     std::visit(Overloaded{
@@ -138,7 +138,8 @@ class FilterGraph {
       report_.print({"WARN: expected primitive group, got:", SVGConverter::describe(base)});
       return;
     }
-    if (!fits(base, 1, primitive)) return;
+    // An appended effect adds no depth.
+    if (!fits(base, primitive)) return;
     // `current` lets go of the chain first, so that the chain grows in place.
     current_ = FilterGroup::source();
     finish(FilterGroup::appending(std::move(base), framed(attributes, std::move(operation))),
@@ -156,15 +157,9 @@ class FilterGraph {
     finish(std::move(base), std::nullopt, primitive);
   }
 
-  // Whether `group` with `moreEffects` effects appended stays within the bounds; an appended
-  // effect adds to the size but not to the depth.
-  bool fits(const FilterGroup& group, std::size_t moreEffects, const Primitive& primitive) const {
+  bool fits(const FilterGroup& group, const Primitive& primitive) const {
     if (group.depth() > maximumDepth_) {
       report_.print({"WARN: filter graph too deep, dropping primitive:", primitive.description()});
-      return false;
-    }
-    if (group.expandedSize() > maximumSize_ || maximumSize_ - group.expandedSize() < moreEffects) {
-      report_.print({"WARN: filter graph too large, dropping primitive:", primitive.description()});
       return false;
     }
     return true;
@@ -172,7 +167,7 @@ class FilterGraph {
 
   void finish(FilterGroup group, const std::optional<std::string>& result,
               const Primitive& primitive) {
-    if (!fits(group, 0, primitive)) return;
+    if (!fits(group, primitive)) return;
     if (result) {
       results_.insert_or_assign(*result, std::move(group));
       current_ = freshGroup();
@@ -183,7 +178,6 @@ class FilterGraph {
 
   const SVGParser::Report& report_;
   std::size_t maximumDepth_;
-  std::size_t maximumSize_;
   std::map<std::string, FilterGroup> results_;
   FilterGroup current_ = freshGroup();
 };
@@ -192,7 +186,7 @@ class FilterGraph {
 
 std::optional<FilterGroup> SVGSwiftUIFigurer::convertFilterGroup(
     const std::vector<Primitive>& primitives) {
-  FilterGraph graph(report_, maximumFilterDepth, maximumFilterSize);
+  FilterGraph graph(report_, maximumFilterDepth);
   for (const auto& primitive : primitives) graph.add(primitive);
   return graph.result();
 }

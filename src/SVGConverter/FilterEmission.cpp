@@ -83,7 +83,8 @@ void appendPrimitive(CodeGenerationStream& s, const Primitive& primitive) {
           if (!op.color && !op.opacity) {
             line = ".shadow(radius: " + s.numberString(op.radius) + ")";
           } else {
-            line = ".shadow(color: " + shadowColor(s, op) + ", radius: " + s.numberString(op.radius);
+            line =
+                ".shadow(color: " + shadowColor(s, op) + ", radius: " + s.numberString(op.radius);
             if (op.position) {
               line += ", x: " + s.numberString(op.position->x) +
                       ", y: " + s.numberString(op.position->y);
@@ -103,8 +104,8 @@ void appendPrimitives(CodeGenerationStream& s, const std::vector<Primitive>& pri
 
 std::string_view blendModeText(FilterGroup::BlendMode mode) {
   static constexpr std::array<std::string_view, 16> names{
-      ".normal",     ".multiply",   ".screen",     ".overlay",   ".darken",    ".lighten",
-      ".difference", ".exclusion",  ".hue",        ".saturation", ".color",    ".luminosity",
+      ".normal",     ".multiply",  ".screen",    ".overlay",    ".darken", ".lighten",
+      ".difference", ".exclusion", ".hue",       ".saturation", ".color",  ".luminosity",
       ".colorDodge", ".colorBurn", ".hardLight", ".softLight"};
   const auto index = static_cast<std::size_t>(mode);
   return index < names.size() ? names[index] : ".normal";

@@ -37,7 +37,8 @@ std::pair<std::string, std::string> simplified(std::string start, std::string en
       {".bottomTrailing", ".bottomLeading", ".trailing", ".leading"},
   }};
   for (const auto& row : rows) {
-    if (row.start == start && row.end == end) return {std::string(row.newStart), std::string(row.newEnd)};
+    if (row.start == start && row.end == end)
+      return {std::string(row.newStart), std::string(row.newEnd)};
   }
   return {std::move(start), std::move(end)};
 }
@@ -73,8 +74,9 @@ void appendGradientArguments(CodeGenerationStream& s, const std::vector<Gradient
     if (colors) {
       items.push_back(std::move(color));
     } else {
-      items.push_back((config.preferInitOverType ? ".init" : "Gradient.Stop") + std::string("(color: ") +
-                      color + ", location: " + s.numberString(stop.offset) + ")");
+      items.push_back((config.preferInitOverType ? ".init" : "Gradient.Stop") +
+                      std::string("(color: ") + color +
+                      ", location: " + s.numberString(stop.offset) + ")");
     }
   }
 
@@ -104,12 +106,13 @@ void appendGradientArguments(CodeGenerationStream& s, const std::vector<Gradient
 
 void appendLinearGradient(CodeGenerationStream& s,
                           const SwiftUIModel::LinearGradientProperty& gradient) {
-  const auto [start, end] =
+  // Named members rather than a structured binding: lambdas may not capture bindings in C++20.
+  const auto points =
       simplified(unitPointName(s, gradient.startPoint), unitPointName(s, gradient.endPoint));
   s.appendLine("static let " + gradient.propertyID + " = LinearGradient(");
   s.indented(true, [&] {
     appendGradientArguments(s, gradient.stops);
-    s.appendLine("startPoint: " + start + ", endPoint: " + end);
+    s.appendLine("startPoint: " + points.first + ", endPoint: " + points.second);
   });
   s.appendLine(")");
 }

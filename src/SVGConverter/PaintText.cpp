@@ -10,8 +10,8 @@ namespace {
 
 // The colours the generated language has as members of its colour type.
 constexpr std::array<std::string_view, 13> knownColorNames{
-    "clear", "black",  "white",   "gray",    "red",    "green",    "blue",
-    "orange", "yellow", "pink", "purple", "primary", "secondary"};
+    "clear",  "black",  "white", "gray",   "red",     "green",    "blue",
+    "orange", "yellow", "pink",  "purple", "primary", "secondary"};
 
 bool isKnownColorName(std::string_view name) {
   for (auto known : knownColorNames) {
@@ -24,9 +24,8 @@ struct Components {
   double red = 0, green = 0, blue = 0;
 };
 
-std::string numericColorText(CodeGenerationStream& s, const CSS::Color& color,
-                             const Components& c, std::optional<double> opacity, bool preferInit,
-                             bool useHex) {
+std::string numericColorText(CodeGenerationStream& s, const CSS::Color& color, const Components& c,
+                             std::optional<double> opacity, bool preferInit, bool useHex) {
   std::string text = preferInit ? ".init(" : "Color(";
   const auto rgb = useHex ? color.rgbValue() : std::nullopt;
   if (c.red == c.green && c.green == c.blue) {
@@ -194,8 +193,7 @@ std::string fontText(const CodeGenerationStream& s, const CSS::Font::Shorthand& 
     }
   }
   const std::string sizeText = s.numberString(*size);
-  if (group == FamilyGroup::plain || group == FamilyGroup::mono ||
-      group == FamilyGroup::rounded) {
+  if (group == FamilyGroup::plain || group == FamilyGroup::mono || group == FamilyGroup::rounded) {
     std::string text = ".system(size: " + sizeText;
     const auto weight = weightText(font.weight);
     if (weight != ".regular") text += ", weight: " + std::string(weight);

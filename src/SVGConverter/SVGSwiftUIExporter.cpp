@@ -72,8 +72,7 @@ void appendPreviewProvider(CodeGenerationStream& s, const ContainerViewType& roo
         using CoreS::swiftDoubleDescription;
         if (root.intrinsicSize) {
           s.appendLine("Text(\"Size: " + swiftDoubleDescription(root.intrinsicSize->width) + "x" +
-                       swiftDoubleDescription(root.intrinsicSize->height) +
-                       "\").padding(.bottom)");
+                       swiftDoubleDescription(root.intrinsicSize->height) + "\").padding(.bottom)");
         }
         if (const auto& box = root.viewBox) {
           s.appendLine("Text(\"ViewBox: " + swiftDoubleDescription(box->origin.x) + "," +

@@ -1,7 +1,6 @@
 #include "SVGConverter/SwiftUIModel.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace SwiftUIModel {
 
@@ -13,7 +12,6 @@ struct FilterGroup::Node {
   BlendMode mode = BlendMode::normal;
   bool empty = false;
   std::size_t depth = 1;
-  std::size_t size = 1;
 };
 
 namespace {
@@ -29,25 +27,12 @@ std::size_t deepestInput(const std::vector<FilterGroup>& inputs) {
   return deepest;
 }
 
-std::size_t saturatingSum(std::size_t a, std::size_t b) {
-  return a > std::numeric_limits<std::size_t>::max() - b ? std::numeric_limits<std::size_t>::max()
-                                                         : a + b;
-}
-
-// The group itself, its effects and each input as often as it is used.
-std::size_t expandedSize(const std::vector<FilterGroup>& inputs, std::size_t effects) {
-  std::size_t size = saturatingSum(1, effects);
-  for (const auto& input : inputs) size = saturatingSum(size, input.expandedSize());
-  return size;
-}
-
 }  // namespace
 
 FilterGroup FilterGroup::merge(std::vector<FilterGroup> inputs) {
   auto node = std::make_shared<Node>();
   node->empty = inputs.empty();
   node->depth = deepestInput(inputs) + 1;
-  node->size = expandedSize(inputs, 0);
   node->inputs = std::move(inputs);
   FilterGroup group;
   group.kind_ = Kind::merge;
@@ -60,7 +45,6 @@ FilterGroup FilterGroup::blend(FilterGroup input, FilterGroup input2, BlendMode 
   node->inputs = {std::move(input), std::move(input2)};
   node->mode = mode;
   node->depth = deepestInput(node->inputs) + 1;
-  node->size = expandedSize(node->inputs, 0);
   FilterGroup group;
   group.kind_ = Kind::blend;
   group.node_ = std::move(node);
@@ -73,7 +57,6 @@ FilterGroup FilterGroup::primitive(FilterGroup input, std::vector<Primitive> pri
   node->depth = input.depth() + 1;
   node->inputs = {std::move(input)};
   node->primitives = std::move(primitives);
-  node->size = expandedSize(node->inputs, node->primitives.size());
   FilterGroup group;
   group.kind_ = Kind::primitive;
   group.node_ = std::move(node);
@@ -92,7 +75,6 @@ FilterGroup FilterGroup::appending(FilterGroup group, Primitive primitive) {
   auto& node = const_cast<Node&>(*group.node_);
   node.primitives.push_back(std::move(primitive));
   node.empty = false;
-  node.size = saturatingSum(node.size, 1);
   return group;
 }
 
@@ -133,10 +115,6 @@ bool FilterGroup::isEmpty() const {
 
 std::size_t FilterGroup::depth() const {
   return node_ ? node_->depth : 1;
-}
-
-std::size_t FilterGroup::expandedSize() const {
-  return node_ ? node_->size : 1;
 }
 
 // Shared inputs compare by identity first, so comparing a group with its own copy costs

@@ -111,8 +111,7 @@ std::vector<std::string> transformStepTexts(const CodeGenerationStream& s,
   std::vector<std::string> texts;
   texts.reserve(steps.size());
   for (std::size_t i = 0; i < steps.size(); ++i) {
-    texts.push_back(i == 0 ? firstStepText(s, steps[i], preferInit)
-                           : chainedStepText(s, steps[i]));
+    texts.push_back(i == 0 ? firstStepText(s, steps[i], preferInit) : chainedStepText(s, steps[i]));
   }
   return texts;
 }

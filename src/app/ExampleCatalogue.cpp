@@ -90,7 +90,9 @@ constexpr std::array<ExampleSVG, 6> catalogue{{
 
 }  // namespace
 
-std::span<const ExampleSVG> exampleSVGs() { return catalogue; }
+std::span<const ExampleSVG> exampleSVGs() {
+  return catalogue;
+}
 
 std::optional<ExampleSVG> exampleNamed(std::string_view name) {
   for (const auto& example : catalogue) {

@@ -41,8 +41,8 @@ Snapshot makeSnapshot(std::string svg, const std::optional<std::string>& fileNam
   const auto tree = SVGParser::parse(svg, report);
   std::string swift;
   if (!tree) {
-    swift = fileName ? "// Could not parse SVG " + *fileName + "\n"
-                     : std::string(unparsableSVGText);
+    swift =
+        fileName ? "// Could not parse SVG " + *fileName + "\n" : std::string(unparsableSVGText);
   } else {
     swift = SVGSwiftUIExporter::generate(*tree, config.exporterConfig(), report);
   }

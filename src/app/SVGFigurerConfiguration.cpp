@@ -15,10 +15,9 @@ constexpr std::array<PositioningStyle, 2> positioningStyles{PositioningStyle::of
                                                             PositioningStyle::padding};
 
 constexpr std::array<std::string_view, 13> keys{
-    "rootViewName",          "indentUsing",     "indent",         "indentEmptyLines",
-    "prefixSVG",             "infoComments",    "previewProvider", "imports",
-    "newlineAfterClosePath", "initType",        "positioningType", "maximumFractionDigits",
-    "useHexColor"};
+    "rootViewName",    "indentUsing",           "indent",     "indentEmptyLines",      "prefixSVG",
+    "infoComments",    "previewProvider",       "imports",    "newlineAfterClosePath", "initType",
+    "positioningType", "maximumFractionDigits", "useHexColor"};
 
 template <class E, std::size_t N>
 std::optional<E> caseFromText(const std::array<E, N>& cases, std::string_view text) {
@@ -28,7 +27,9 @@ std::optional<E> caseFromText(const std::array<E, N>& cases, std::string_view te
   return std::nullopt;
 }
 
-std::string typeName(const nlohmann::json& value) { return value.type_name(); }
+std::string typeName(const nlohmann::json& value) {
+  return value.type_name();
+}
 
 // The JSON reading of one value type; gives the reason when the JSON holds something else.
 struct ValueReader {
@@ -73,7 +74,7 @@ struct ValueReader {
     return std::nullopt;
   }
   template <class E>
-    requires std::is_enum_v<E>
+  requires std::is_enum_v<E>
   static std::optional<std::string> read(const nlohmann::json& json, E& out) {
     std::string text;
     if (auto error = read(json, text)) return error;
@@ -133,7 +134,9 @@ std::optional<int> parseInt(std::string_view text) {
 
 }  // namespace
 
-std::string_view textValue(IndentType value) { return value == IndentType::tabs ? "\t" : " "; }
+std::string_view textValue(IndentType value) {
+  return value == IndentType::tabs ? "\t" : " ";
+}
 std::string_view textValue(InitType value) {
   return value == InitType::autoInit ? "init" : "type";
 }
@@ -150,10 +153,18 @@ std::optional<PositioningStyle> positioningStyleFromText(std::string_view text) 
   return caseFromText(positioningStyles, text);
 }
 
-std::span<const IndentType> allIndentTypes() { return indentTypes; }
-std::span<const InitType> allInitTypes() { return initTypes; }
-std::span<const PositioningStyle> allPositioningStyles() { return positioningStyles; }
-std::span<const std::string_view> configurationKeys() { return keys; }
+std::span<const IndentType> allIndentTypes() {
+  return indentTypes;
+}
+std::span<const InitType> allInitTypes() {
+  return initTypes;
+}
+std::span<const PositioningStyle> allPositioningStyles() {
+  return positioningStyles;
+}
+std::span<const std::string_view> configurationKeys() {
+  return keys;
+}
 
 SVGSwiftUIExporter::Config SVGFigurerConfiguration::exporterConfig() const {
   SVGSwiftUIExporter::Config config;
@@ -197,7 +208,7 @@ std::string encodeJSON(const SVGFigurerConfiguration& config) {
 }
 
 Decoded<SVGFigurerConfiguration> decodeConfiguration(const nlohmann::json& json,
-                                                      const SVGParser::Report& report) {
+                                                     const SVGParser::Report& report) {
   using Result = Decoded<SVGFigurerConfiguration>;
   if (!json.is_object()) return Result::failure("expected an object, found " + typeName(json));
   SVGFigurerConfiguration c;
@@ -220,7 +231,7 @@ Decoded<SVGFigurerConfiguration> decodeConfiguration(const nlohmann::json& json,
 }
 
 Decoded<SVGFigurerConfiguration> decodeConfigurationText(std::string_view jsonText,
-                                                          const SVGParser::Report& report) {
+                                                         const SVGParser::Report& report) {
   const auto json = nlohmann::json::parse(jsonText, nullptr, false);
   if (json.is_discarded()) {
     return Decoded<SVGFigurerConfiguration>::failure("the data is not valid JSON");

@@ -14,8 +14,10 @@ const std::string_view defaultDocumentSVG =
     "</svg>\n";
 
 DocumentEnvironment DocumentEnvironment::shared() {
-  return DocumentEnvironment{&CoreS::defaultLogger(), &ConfigurationDefaults::shared(),
-                             &PendingDocumentQueue::shared(), {}};
+  return DocumentEnvironment{&CoreS::defaultLogger(),
+                             &ConfigurationDefaults::shared(),
+                             &PendingDocumentQueue::shared(),
+                             {}};
 }
 
 SVGFigurerDocument::SVGFigurerDocument(DocumentEnvironment environment)
@@ -55,8 +57,8 @@ SVGFigurerDocument::SVGFigurerDocument(Opened, Snapshot snapshot, DocumentEnviro
 
 SVGFigurerDocument::OpenResult SVGFigurerDocument::open(const FileReadRequest& request,
                                                         DocumentEnvironment environment) {
-  auto read = readSnapshot(request, environment.defaults->defaultConfiguration(),
-                           *environment.log, environment.report);
+  auto read = readSnapshot(request, environment.defaults->defaultConfiguration(), *environment.log,
+                           environment.report);
   if (auto* error = std::get_if<FileReadError>(&read)) return *error;
   return std::unique_ptr<SVGFigurerDocument>(new SVGFigurerDocument(
       Opened{}, std::move(std::get<Snapshot>(read)), std::move(environment)));
@@ -84,9 +86,8 @@ void SVGFigurerDocument::applyGeneratedSwift(UndoRegistrar* undo) {
   std::string old = swift_;
   write(swift_, std::string(generatedSwift_), Property::swift);
   if (undo == nullptr) return;
-  undo->registerUndo(*this, [old = std::move(old)](SVGFigurerDocument& document) {
-    document.setSwift(old);
-  });
+  undo->registerUndo(
+      *this, [old = std::move(old)](SVGFigurerDocument& document) { document.setSwift(old); });
 }
 
 void SVGFigurerDocument::rebuild() {

@@ -20,8 +20,8 @@ Decoded<Snapshot> decodeSnapshot(std::string_view bytes, const SVGParser::Report
   } catch (const nlohmann::json::exception& error) {
     return Result::failure(error.what());
   }
-  if (!json.is_object()) return Result::failure("expected an object, found " +
-                                                std::string(json.type_name()));
+  if (!json.is_object())
+    return Result::failure("expected an object, found " + std::string(json.type_name()));
   Snapshot snapshot;
   for (auto [key, field] : {std::pair{"svg", &snapshot.svg}, {"swift", &snapshot.swift}}) {
     const auto found = json.find(key);

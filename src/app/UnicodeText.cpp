@@ -42,8 +42,15 @@ std::optional<Scalar> decodeAt(std::string_view text, std::size_t i) {
 
 bool isWhitespaceOrNewline(char32_t c) {
   switch (c) {
-    case 0x20: case 0xA0: case 0x1680: case 0x2028: case 0x2029: case 0x202F: case 0x205F:
-    case 0x3000: case 0x85:
+    case 0x20:
+    case 0xA0:
+    case 0x1680:
+    case 0x2028:
+    case 0x2029:
+    case 0x202F:
+    case 0x205F:
+    case 0x3000:
+    case 0x85:
       return true;
     default:
       return (c >= 0x0A && c <= 0x0D) || (c >= 0x2000 && c <= 0x200A);

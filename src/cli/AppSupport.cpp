@@ -50,6 +50,8 @@ std::unique_ptr<SVGFigurerApp::SVGFigurerDocument> openDocument(const std::strin
   return std::move(std::get<std::unique_ptr<SVGFigurerApp::SVGFigurerDocument>>(opened));
 }
 
-void printError(const std::string& message) { std::cerr << "svgfigurer: " << message << '\n'; }
+void printError(const std::string& message) {
+  std::cerr << "svgfigurer: " << message << '\n';
+}
 
 }  // namespace svgfigurer::cli

@@ -72,7 +72,7 @@ std::optional<SVGFigurerConfiguration> settingsFor(const ConvertOptions& options
   if (options.rootViewName) config.rootViewName = *options.rootViewName;
   if (options.indentUsing) {
     config.indentUsing = *options.indentUsing == "tabs" ? SVGFigurerApp::IndentType::tabs
-                                                         : SVGFigurerApp::IndentType::spaces;
+                                                        : SVGFigurerApp::IndentType::spaces;
   }
   if (options.indent) config.indent = *options.indent;
   if (options.initType) {
@@ -172,8 +172,7 @@ void convertBatch(const ConvertOptions& options, const SVGFigurerConfiguration& 
     }
   }
   if (failures.empty()) return;
-  printError(std::to_string(failures.size()) + " of " + std::to_string(total) +
-             " inputs failed:");
+  printError(std::to_string(failures.size()) + " of " + std::to_string(total) + " inputs failed:");
   for (const auto& path : failures) std::cerr << "  " << path << '\n';
   throw CLI::RuntimeError(1);
 }

@@ -74,6 +74,13 @@ TEST(Console2Test, WritesValuesAfterOneBlankEachWithNilForAbsent) {
   EXPECT_EQ(f.out, "rebuilding SVG ... 1 <nil> x s 2.5 true\n");
 }
 
+TEST(Console2Test, LogsAnOptionalObjectAlone) {
+  ConsoleFixture f(LogLevel::log);
+  f.console.log(std::optional<int>(42));
+  f.console.log(std::optional<int>());
+  EXPECT_EQ(f.out, "42\n\n");
+}
+
 TEST(Console2Test, FilteredCallsNeverRunTheProducer) {
   ConsoleFixture f(LogLevel::error);
   bool ran = false;

@@ -133,6 +133,15 @@ INSTANTIATE_TEST_SUITE_P(
         GraphRow{"explicitInputDropsTheChainBefore",
                  {blur(1), blur(2, sourceGraphic)},
                  Group::primitive(source, {mBlur(2)}),
+                 {}},
+        // The chain grows on a group of its own; the named result it starts from keeps its
+        // single effect.
+        GraphRow{"chainOnANamedResultLeavesTheResultAlone",
+                 {blur(1, previous, "a"), offset(1, 1, In::named("a")), offset(2, 2),
+                  merge({In::named("a"), previous})},
+                 Group::merge({Group::primitive(source, {mBlur(1)}),
+                               Group::primitive(Group::primitive(source, {mBlur(1)}),
+                                                {mOffset(1, 1), mOffset(2, 2)})}),
                  {}}),
     [](const auto& info) { return std::string(info.param.label); });
 
@@ -170,19 +179,63 @@ TEST(FilterGraphs, PrimitiveFramesAndShadowDefaults) {
                                   CSS::Color::named("red"), 1.0, 4, CGPoint{1, 0}}));
 }
 
-// Reusing a result many times shares the group instead of copying it, so the model stays
-// small; past the depth limit primitives are dropped with a report.
-TEST(FilterGraphs, DeepAndWideGraphsStayBounded) {
+// Past the depth limit primitives are dropped with a report.
+TEST(FilterGraphs, DeepGraphsStayBounded) {
   std::vector<P> primitives;
-  for (int i = 0; i < 1000; ++i) primitives.push_back(blend(previous, previous));
+  for (int i = 0; i < 1000; ++i) primitives.push_back(blend(previous, sourceGraphic));
   Collected collected;
   SVGSwiftUIFigurer figurer(collected.report());
   const auto group = figurer.convertFilterGroup(primitives);
   ASSERT_TRUE(group);
   EXPECT_EQ(group->depth(), SVGSwiftUIFigurer::maximumFilterDepth);
   // Blend k is k + 2 levels deep over the fresh group, so the first 254 fit.
-  EXPECT_EQ(collected.lines.size(), 1000 - SVGSwiftUIFigurer::maximumFilterDepth + 2);
+  ASSERT_EQ(collected.lines.size(), 1000 - SVGSwiftUIFigurer::maximumFilterDepth + 2);
+  EXPECT_EQ(collected.lines[0].rfind("WARN: filter graph too deep, dropping primitive:", 0), 0u);
+}
+
+// Reusing a result many times shares the group instead of copying it, so the model stays small
+// however large its written-out form.
+TEST(FilterGraphs, ReusedResultsAreShared) {
+  std::vector<P> primitives;
+  for (int i = 0; i < 200; ++i) primitives.push_back(blend(previous, previous));
+  SVGSwiftUIFigurer figurer;
+  const auto group = figurer.convertFilterGroup(primitives);
+  ASSERT_TRUE(group);
+  EXPECT_EQ(group->depth(), 202u);
+  EXPECT_EQ(*group, *group);
   EXPECT_LT(SVGConverter::describe(*group).size(), 100000u);
+}
+
+// Growing in place must never show through another copy of the group.
+TEST(FilterGraphs, AppendingLeavesOtherCopiesAlone) {
+  const Group shared = Group::primitive(source, {mBlur(1)});
+  auto copy = shared;
+  const auto grown = Group::appending(std::move(copy), mOffset(1, 0));
+  EXPECT_EQ(shared, Group::primitive(source, {mBlur(1)}));
+  EXPECT_EQ(grown, Group::primitive(source, {mBlur(1), mOffset(1, 0)}));
+  EXPECT_EQ(Group::appending(Group::merge({}), mBlur(2)),
+            Group::primitive(Group::merge({}), {mBlur(2)}));
+  EXPECT_FALSE(Group::appending(Group::primitive(Group::merge({}), {}), mBlur(2)).isEmpty());
+}
+
+// Long unnamed chains collect in one group in linear time; rebuilding the group for every
+// effect made a filter of this size take minutes.
+TEST(FilterGraphs, LongChainsCollectInOneGroup) {
+  const std::size_t count = 30000;
+  std::vector<P> primitives(count, offset(1, 0));
+  primitives.push_back(merge({previous, previous}));
+  primitives.push_back(offset(2, 0));
+  Collected collected;
+  SVGSwiftUIFigurer figurer(collected.report());
+  const auto group = figurer.convertFilterGroup(primitives);
+  ASSERT_TRUE(group);
+  ASSERT_EQ(group->kind(), Group::Kind::primitive);
+  EXPECT_EQ(group->primitives().size(), 1u);
+  const auto& chain = group->input().inputs();
+  ASSERT_EQ(chain.size(), 2u);
+  EXPECT_EQ(chain[0].primitives().size(), count);
+  EXPECT_EQ(chain[0], chain[1]);
+  EXPECT_TRUE(collected.lines.empty());
 }
 
 // ---- Filter conversion and lookup ------------------------------------------------------

@@ -20,7 +20,8 @@ namespace {
 namespace fs = std::filesystem;
 
 fs::path goldenDirectory() {
-  if (const char* root = std::getenv("SVGFIGURER_SOURCE_DIR")) return fs::path(root) / "tests/golden";
+  if (const char* root = std::getenv("SVGFIGURER_SOURCE_DIR"))
+    return fs::path(root) / "tests/golden";
   return fs::path("golden");
 }
 

@@ -27,7 +27,7 @@ TEST(ColorParse, ReadsTheAttributeSpelling) {
       {"  RED\n", Color::named("red")},
       // Unknown words are names too, and "none" is only caught before the trim.
       {"Foo", Color::named("foo")},
-      {"\xc3\x80" "BC", Color::named("\xc3\xa0" "bc")},
+      {"\u00C0BC", Color::named("\u00E0bc")},
       {" none", Color::named("none")},
       {"rgb(", Color::named("rgb(")},
       {"#fff", Color::rgb(1, 1, 1)},

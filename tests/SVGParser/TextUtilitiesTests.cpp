@@ -57,12 +57,12 @@ TEST(SplitTest, AListOfMoreThanAHundredNamesKeepsTheRemainderWhole) {
 TEST(LowercasedTest, MapsEveryLetterByItselfAndKeepsBrokenBytes) {
   const std::pair<std::string_view, std::string_view> rows[] = {
       {"RED Blue", "red blue"},
-      {"\xc3\x80" "BC", "\xc3\xa0" "bc"},                  // À is a letter like any other
-      {"\xc4\xb0", "i\xcc\x87"},                          // İ takes its full mapping
-      {"\xce\xa3\xce\x91\xce\xa3", "\xcf\x83\xce\xb1\xcf\x83"},  // no final sigma
-      {"\xe2\x84\xaa", "k"},                               // Kelvin sign
-      {"\xf0\x90\x90\x80", "\xf0\x90\x90\xa8"},             // Deseret, outside the BMP
-      {"A\xff" "B\xc3", "a\xff" "b\xc3"},
+      {"\u00C0BC", "\u00E0bc"},                      // a letter like any other
+      {"\u0130", "i\u0307"},                         // the full mapping, two scalars
+      {"\u03A3\u0391\u03A3", "\u03C3\u03B1\u03C3"},  // no final sigma
+      {"\u212A", "k"},                               // Kelvin sign
+      {"\U00010400", "\U00010428"},                  // outside the BMP
+      {"A\xffZ\xc3", "a\xffz\xc3"},
   };
   for (const auto& [input, expected] : rows) EXPECT_EQ(lowercased(input), expected) << input;
 }

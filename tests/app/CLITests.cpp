@@ -14,7 +14,7 @@ using namespace SVGFigurerApp;
 
 namespace {
 
-struct Run {
+struct Outcome {
   int exitCode = -1;
   std::string out;
   std::string err;
@@ -36,19 +36,20 @@ class CLITest : public testing::Test {
     return path;
   }
 
-  Run run(const std::vector<std::string>& arguments, const std::string& environment = "") {
-    std::string command = "cd " + quoted(folder.path().string()) + " && XDG_CONFIG_HOME=" +
-                          quoted(config().string()) + " " + environment + " " +
-                          quoted(SVGFIGURER_CLI);
+  Outcome run(const std::vector<std::string>& arguments, const std::string& environment = "") {
+    std::string command = "cd " + quoted(folder.path().string()) +
+                          " && XDG_CONFIG_HOME=" + quoted(config().string()) + " " + environment +
+                          " " + quoted(SVGFIGURER_CLI);
     for (const auto& argument : arguments) command += " " + quoted(argument);
     const auto errPath = folder.path() / "stderr.txt";
     command += " 2>" + quoted(errPath.string());
-    Run result;
+    Outcome result;
     std::FILE* pipe = ::popen(command.c_str(), "r");
     if (pipe == nullptr) return result;
     char buffer[4096];
     std::size_t count;
-    while ((count = std::fread(buffer, 1, sizeof buffer, pipe)) > 0) result.out.append(buffer, count);
+    while ((count = std::fread(buffer, 1, sizeof buffer, pipe)) > 0)
+      result.out.append(buffer, count);
     const int status = ::pclose(pipe);
     result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     result.err = AppTest::readFile(errPath);
@@ -94,34 +95,34 @@ TEST_P(ConvertFlags, OverrideTheStartingSettings) {
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, ConvertFlags,
-    testing::Values(
-        FlagRow{"NoPrefix", {"--no-prefix-svg"}, [](auto& c) { c.prefixSVG = false; }},
-        FlagRow{"TabsOfOne",
-                {"--indent-using", "tabs", "--indent", "1"},
-                [](auto& c) {
-                  c.indentUsing = IndentType::tabs;
-                  c.indent = 1;
-                }},
-        FlagRow{"RootAndDigits",
-                {"--root-view-name", "Dot", "--max-fraction-digits", "1"},
-                [](auto& c) {
-                  c.rootViewName = "Dot";
-                  c.maximumFractionDigits = 1;
-                }},
-        FlagRow{"Switches",
-                {"--no-imports", "--no-preview-provider", "--no-info-comments", "--hex-colors",
-                 "--indent-empty-lines", "--no-newline-after-close-path"},
-                [](auto& c) {
-                  c.imports = c.previewProvider = c.infoComments = false;
-                  c.useHexColor = c.indentEmptyLines = true;
-                  c.newlineAfterClosePath = false;
-                }},
-        FlagRow{"InitAndOffset",
-                {"--init-type", "init", "--positioning", "offset"},
-                [](auto& c) {
-                  c.initType = InitType::autoInit;
-                  c.positioningType = PositioningStyle::offset;
-                }}),
+    testing::Values(FlagRow{"NoPrefix", {"--no-prefix-svg"}, [](auto& c) { c.prefixSVG = false; }},
+                    FlagRow{"TabsOfOne",
+                            {"--indent-using", "tabs", "--indent", "1"},
+                            [](auto& c) {
+                              c.indentUsing = IndentType::tabs;
+                              c.indent = 1;
+                            }},
+                    FlagRow{"RootAndDigits",
+                            {"--root-view-name", "Dot", "--max-fraction-digits", "1"},
+                            [](auto& c) {
+                              c.rootViewName = "Dot";
+                              c.maximumFractionDigits = 1;
+                            }},
+                    FlagRow{
+                        "Switches",
+                        {"--no-imports", "--no-preview-provider", "--no-info-comments",
+                         "--hex-colors", "--indent-empty-lines", "--no-newline-after-close-path"},
+                        [](auto& c) {
+                          c.imports = c.previewProvider = c.infoComments = false;
+                          c.useHexColor = c.indentEmptyLines = true;
+                          c.newlineAfterClosePath = false;
+                        }},
+                    FlagRow{"InitAndOffset",
+                            {"--init-type", "init", "--positioning", "offset"},
+                            [](auto& c) {
+                              c.initType = InitType::autoInit;
+                              c.positioningType = PositioningStyle::offset;
+                            }}),
     [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(CLITest, ConvertStartsFromTheSavedDefaultUnlessFresh) {
@@ -132,9 +133,8 @@ TEST_F(CLITest, ConvertStartsFromTheSavedDefaultUnlessFresh) {
   EXPECT_EQ(run({"convert", path.string()}).out, expectedSwift(circleSVG, saved));
   EXPECT_EQ(run({"convert", "--fresh", path.string()}).out,
             expectedSwift(circleSVG, SVGFigurerConfiguration::fresh()));
-  const auto settings = file("settings.json",
-                             R"({"rootViewName":"Z","indentUsing":" ","indent":1,)"
-                             R"("initType":"type","positioningType":"padding"})");
+  const auto settings = file("settings.json", R"({"rootViewName":"Z","indentUsing":" ","indent":1,)"
+                                              R"("initType":"type","positioningType":"padding"})");
   auto fromFile = SVGFigurerConfiguration::fresh();
   fromFile.rootViewName = "Z";
   fromFile.indent = 1;
@@ -162,9 +162,8 @@ TEST_F(CLITest, BatchWritesOneFilePerInputAndNamesEachFailure) {
   const auto other = file("24px.svg", circleSVG);
   const auto bad = file("broken.svg", "<svg");
   const auto out = folder.path() / "out";
-  const auto result =
-      run({"convert", "--no-prefix-svg", "-o", out.string(), good.string(), bad.string(),
-           "missing.svg", other.string()});
+  const auto result = run({"convert", "--no-prefix-svg", "-o", out.string(), good.string(),
+                           bad.string(), "missing.svg", other.string()});
   EXPECT_EQ(result.exitCode, 1);
   EXPECT_EQ(result.out, "");
   EXPECT_NE(result.err.find("broken.svg"), std::string::npos) << result.err;
@@ -212,7 +211,8 @@ TEST_F(CLITest, ConfigSetAndReset) {
   ASSERT_EQ(run({"config", "set", "indentUsing", "tabs"}).exitCode, 0);
   const auto shown = nlohmann::json::parse(run({"config"}).out);
   EXPECT_EQ(shown["indentUsing"], "\t");
-  EXPECT_TRUE(std::filesystem::exists(config() / "net.quivane.devtools" / "DefaultSVGFigurerConfig"));
+  EXPECT_TRUE(
+      std::filesystem::exists(config() / "net.quivane.devtools" / "DefaultSVGFigurerConfig"));
   EXPECT_EQ(run({"config", "set", "indent", "many"}).exitCode, 2);
   EXPECT_EQ(run({"config", "set", "colour", "1"}).exitCode, 2);
   ASSERT_EQ(run({"config", "reset"}).exitCode, 0);

@@ -36,8 +36,8 @@ TEST_P(EverySample, ParsesWithoutReportsAndGenerates) {
   EXPECT_TRUE(report.empty()) << report.front();
 }
 
-INSTANTIATE_TEST_SUITE_P(Samples, EverySample, testing::ValuesIn(exampleSVGs().begin(),
-                                                                   exampleSVGs().end()),
+INSTANTIATE_TEST_SUITE_P(Samples, EverySample,
+                         testing::ValuesIn(exampleSVGs().begin(), exampleSVGs().end()),
                          [](const auto& info) {
                            std::string name;
                            for (char c : info.param.name) {

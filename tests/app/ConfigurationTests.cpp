@@ -57,7 +57,9 @@ TEST_P(ConfigurationDecoding, FollowsTheKeyRules) {
   const auto decoded = decodeConfigurationText(row.json, report);
   ASSERT_EQ(decoded.value.has_value(), row.decodes) << decoded.error;
   EXPECT_EQ(decoded.error.empty(), row.decodes);
-  if (decoded && row.check) EXPECT_TRUE(row.check(*decoded.value));
+  if (decoded && row.check) {
+    EXPECT_TRUE(row.check(*decoded.value));
+  }
   EXPECT_EQ(lines.size(), row.printedErrors);
   for (const auto& line : lines) EXPECT_TRUE(line.starts_with("ERROR: ")) << line;
 }
@@ -72,8 +74,8 @@ const std::vector<DecodeRow> decodeRows = {
                   R"("indentEmptyLines":true,"imports":false)"),
      true,
      [](auto& c) {
-       return !c.prefixSVG && c.maximumFractionDigits == 7 && c.useHexColor &&
-              c.indentEmptyLines && !c.imports;
+       return !c.prefixSVG && c.maximumFractionDigits == 7 && c.useHexColor && c.indentEmptyLines &&
+              !c.imports;
      }},
     {"IntegralFloatReadsAsInteger", withRequired(R"("maximumFractionDigits":3.0)"), true,
      [](auto& c) { return c.maximumFractionDigits == 3; }},
@@ -101,8 +103,8 @@ const std::vector<DecodeRow> decodeRows = {
     {"NullRequiredKeyFails",
      R"({"rootViewName":null,"indentUsing":" ","indent":2,"initType":"type","positioningType":"padding"})",
      false, nullptr},
-    {"MissingPositioningFails", R"({"rootViewName":"","indentUsing":" ","indent":2,"initType":"type"})",
-     false, nullptr},
+    {"MissingPositioningFails",
+     R"({"rootViewName":"","indentUsing":" ","indent":2,"initType":"type"})", false, nullptr},
     {"IndentAsTextFails",
      R"({"rootViewName":"","indentUsing":" ","indent":"2","initType":"type","positioningType":"padding"})",
      false, nullptr},
@@ -157,13 +159,12 @@ TEST_P(IndentMapping, RepeatsTheIndentCharacter) {
   EXPECT_EQ(config.exporterConfig().indentString, GetParam().expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, IndentMapping,
-                         testing::Values(IndentRow{IndentType::spaces, 3, "   "},
-                                         IndentRow{IndentType::tabs, 3, "\t\t\t"},
-                                         IndentRow{IndentType::spaces, 0, ""},
-                                         IndentRow{IndentType::tabs, -2, ""},
-                                         IndentRow{IndentType::spaces, 1000000,
-                                                   std::string(maximumIndentWidth, ' ')}));
+INSTANTIATE_TEST_SUITE_P(
+    Rows, IndentMapping,
+    testing::Values(IndentRow{IndentType::spaces, 3, "   "},
+                    IndentRow{IndentType::tabs, 3, "\t\t\t"}, IndentRow{IndentType::spaces, 0, ""},
+                    IndentRow{IndentType::tabs, -2, ""},
+                    IndentRow{IndentType::spaces, 1000000, std::string(maximumIndentWidth, ' ')}));
 
 TEST(Configuration, MapsOntoTheExporterSettingsAndKeepsTheRest) {
   SVGFigurerConfiguration config;

@@ -61,7 +61,8 @@ TEST(DefaultsStore, RoundTripUnderATemporaryConfigHome) {
   EXPECT_EQ(reopened.defaultConfiguration(), config);
   // Nothing but the one file is left behind by the atomic write.
   std::size_t entries = 0;
-  for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(file.parent_path())) {
+  for ([[maybe_unused]] const auto& entry :
+       std::filesystem::directory_iterator(file.parent_path())) {
     ++entries;
   }
   EXPECT_EQ(entries, 1u);

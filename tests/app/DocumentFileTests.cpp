@@ -64,7 +64,8 @@ class DocumentFileTest : public testing::Test {
 };
 
 TEST_F(DocumentFileTest, DocumentWithoutConfigReadsAndKeepsItsSource) {
-  auto result = open(R"({"svg":")" + std::string("<svg/>") + R"(","swift":"// kept\n"})", "a.svgfigurer");
+  auto result =
+      open(R"({"svg":")" + std::string("<svg/>") + R"(","swift":"// kept\n"})", "a.svgfigurer");
   auto& doc = document(result);
   EXPECT_EQ(doc.svgString(), "<svg/>");
   EXPECT_EQ(doc.swift(), "// kept\n");

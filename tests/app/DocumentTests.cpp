@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "AppTestSupport.h"
+#include "SVGParser/SVGParser.h"
 
 using namespace SVGFigurerApp;
 using AppTest::Fixture;
@@ -263,10 +264,10 @@ TEST(Generation, HeaderWrapsTheExportersTextExactly) {
   const auto result = generateSwift(circleSVG, config, log);
   auto svg = SVGParser::parse(circleSVG, {});
   ASSERT_TRUE(svg);
-  EXPECT_EQ(result.text,
-            svgHeaderComment(circleSVG) + SVGSwiftUIExporter::generate(*svg, config.exporterConfig()));
-  EXPECT_TRUE(log.contains(CoreS::LogLevel::log, "rebuilding SVG ... " +
-                                                     std::to_string(circleSVG.size())));
+  EXPECT_EQ(result.text, svgHeaderComment(circleSVG) +
+                             SVGSwiftUIExporter::generate(*svg, config.exporterConfig()));
+  EXPECT_TRUE(
+      log.contains(CoreS::LogLevel::log, "rebuilding SVG ... " + std::to_string(circleSVG.size())));
 }
 
 }  // namespace

@@ -68,6 +68,19 @@ class Logger {
   void warn(MessageProducer message, const Ts&... values) { logAt(LogLevel::warn, message, values...); }
   template <class... Ts>
   void log(MessageProducer message, const Ts&... values) { logAt(LogLevel::log, message, values...); }
+  // Logs an optional object alone at `log`: its text, or an empty message when absent.
+  template <class T>
+  void log(const std::optional<T>& object) {
+    if (!object) {
+      primaryLog(LogLevel::log, "", {});
+      return;
+    }
+    primaryLog(LogLevel::log, [&object] {
+      std::string text;
+      LogValue(*object).appendTo(text);
+      return text;
+    }, {});
+  }
   template <class... Ts>
   void info(MessageProducer message, const Ts&... values) { logAt(LogLevel::info, message, values...); }
   template <class... Ts>

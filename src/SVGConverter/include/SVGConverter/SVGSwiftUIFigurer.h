@@ -25,10 +25,6 @@ class SVGSwiftUIFigurer {
   static constexpr std::size_t maximumNesting = 256;
   // Filter graphs deeper than this drop the primitive that would make them deeper.
   static constexpr std::size_t maximumFilterDepth = 256;
-  // Likewise for graphs whose written-out form (a reused result repeated at each use) would
-  // hold more groups and effects than this: doubling a result a few dozen times would
-  // otherwise ask the writer for more text than any memory holds.
-  static constexpr std::size_t maximumFilterSize = 100000;
 
   // A frame of optional numbers, for elements whose frame is partly known.
   struct PointFrame {

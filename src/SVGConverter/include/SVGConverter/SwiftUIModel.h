@@ -189,9 +189,6 @@ struct FilterModifierType {
     bool isEmpty() const;
     // Levels of groups, 1 for a group without inputs.
     std::size_t depth() const;
-    // Groups and effects met by a walk that visits a shared input at each of its uses, as a
-    // writer does; it can grow far beyond the memory the group takes. Saturates.
-    std::size_t expandedSize() const;
 
     bool operator==(const FilterGroup& other) const;
 

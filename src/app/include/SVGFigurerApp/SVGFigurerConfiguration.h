@@ -97,10 +97,10 @@ std::string encodeJSON(const SVGFigurerConfiguration& config);
 // that names no case, fails the record. A mistyped key with a default prints
 // "ERROR: <reason>" to `report` and takes the default.
 Decoded<SVGFigurerConfiguration> decodeConfiguration(const nlohmann::json& json,
-                                                      const SVGParser::Report& report = {});
+                                                     const SVGParser::Report& report = {});
 // The same from JSON text.
 Decoded<SVGFigurerConfiguration> decodeConfigurationText(std::string_view jsonText,
-                                                          const SVGParser::Report& report = {});
+                                                         const SVGParser::Report& report = {});
 
 // The thirteen key names in record order.
 std::span<const std::string_view> configurationKeys();
