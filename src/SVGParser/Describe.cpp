@@ -3,6 +3,7 @@
 #include <type_traits>
 
 #include "CoreS/DoubleText.h"
+#include "TextUtilities.h"
 
 namespace SVGParser {
 
@@ -18,18 +19,8 @@ std::string concat(std::initializer_list<std::string_view> pieces) {
 }
 
 std::string quoted(std::string_view text) {
-  std::string out = "\"";
-  for (char c : text) {
-    switch (c) {
-      case '"': out += "\\\""; break;
-      case '\\': out += "\\\\"; break;
-      case '\n': out += "\\n"; break;
-      case '\r': out += "\\r"; break;
-      case '\t': out += "\\t"; break;
-      default: out += c;
-    }
-  }
-  out += '"';
+  std::string out;
+  text::appendQuoted(out, text);
   return out;
 }
 

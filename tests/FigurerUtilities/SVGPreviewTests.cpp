@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "CapturingLogger.h"
+#include "support/CapturingLogger.h"
 
 namespace FigurerUtilities {
 namespace {

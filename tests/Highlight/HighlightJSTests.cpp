@@ -7,7 +7,7 @@
 #include <QTemporaryDir>
 #include <future>
 
-#include "CapturingLogger.h"
+#include "support/CapturingLogger.h"
 #include "TestSupport.h"
 
 namespace Highlight {

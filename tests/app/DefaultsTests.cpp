@@ -98,6 +98,7 @@ TEST(ConfigurationDefaults, OutsideChangeIsAdoptedAndWrittenBack) {
   Fixture fixture;
   auto changed = SVGFigurerConfiguration::fresh();
   changed.indent = 4;
+  ASSERT_EQ(fixture.defaults.defaultConfiguration(), SVGFigurerConfiguration::fresh());
   fixture.store().setData(defaultConfigurationKey,
                           R"({"rootViewName":"","indentUsing":" ","indent":4,"initType":"type",)"
                           R"("positioningType":"padding","maximumFractionDigits":4})");
