@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "CoreS/DoubleText.h"
-#include "NumberFormatter.h"
+#include "SVGConverter/NumberFormatter.h"
 
 namespace SVGConverter {
 
@@ -85,10 +85,19 @@ void CodeGenerationStream::openBlock(std::string_view header,
 }
 
 std::string CodeGenerationStream::numberString(double value) const {
-  if (std::isnan(value)) return ".nan";
-  if (std::isinf(value)) return value < 0 ? "-.infinity" : ".infinity";
-  if (auto text = numberFormatter_->format(value)) return std::move(*text);
-  return CoreS::swiftDoubleDescription(value);
+  std::string text;
+  appendNumber(text, value);
+  return text;
+}
+
+void CodeGenerationStream::appendNumber(std::string& out, double value) const {
+  if (std::isnan(value)) {
+    out += ".nan";
+  } else if (std::isinf(value)) {
+    out += value < 0 ? "-.infinity" : ".infinity";
+  } else if (!numberFormatter_->appendTo(out, value)) {
+    out += CoreS::swiftDoubleDescription(value);
+  }
 }
 
 }  // namespace SVGConverter

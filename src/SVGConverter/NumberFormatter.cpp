@@ -1,8 +1,10 @@
-#include "NumberFormatter.h"
+#include "SVGConverter/NumberFormatter.h"
 
 #include <algorithm>
 #include <optional>
 #include <vector>
+
+#include "SVGConverter/FixedDecimalText.h"
 
 #include <unicode/ustring.h>
 
@@ -20,7 +22,8 @@ void setSymbol(UNumberFormat* format, UNumberFormatSymbol symbol, const UChar* t
 
 }  // namespace
 
-NumberFormatter::NumberFormatter(int maximumFractionDigits, bool useThousandsSeparator) {
+NumberFormatter::NumberFormatter(int maximumFractionDigits, bool useThousandsSeparator)
+    : maximumFractionDigits_(std::clamp(maximumFractionDigits, 0, largestFractionDigits)) {
   UErrorCode status = U_ZERO_ERROR;
   static const UChar pattern[] = {u'#', 0};
   format_.reset(unum_open(UNUM_PATTERN_DECIMAL, pattern, -1, "en_US_POSIX", nullptr, &status));
@@ -37,13 +40,27 @@ NumberFormatter::NumberFormatter(int maximumFractionDigits, bool useThousandsSep
   // "#" alone would print 0.5 as ".5", which the generated language does not accept.
   unum_setAttribute(format, UNUM_MIN_INTEGER_DIGITS, 1);
   unum_setAttribute(format, UNUM_MIN_FRACTION_DIGITS, 0);
-  unum_setAttribute(format, UNUM_MAX_FRACTION_DIGITS,
-                    std::clamp(maximumFractionDigits, 0, largestFractionDigits));
+  unum_setAttribute(format, UNUM_MAX_FRACTION_DIGITS, maximumFractionDigits_);
   unum_setAttribute(format, UNUM_ROUNDING_MODE, UNUM_ROUND_HALFEVEN);
   if (U_FAILURE(status)) format_.reset();
 }
 
 std::optional<std::string> NumberFormatter::format(double value) const {
+  std::string text;
+  if (!appendTo(text, value)) return std::nullopt;
+  return text;
+}
+
+bool NumberFormatter::appendTo(std::string& out, double value) const {
+  if (!format_) return false;
+  if (appendFixedDecimal(out, value, maximumFractionDigits_)) return true;
+  auto text = formatWithICU(value);
+  if (!text) return false;
+  out += *text;
+  return true;
+}
+
+std::optional<std::string> NumberFormatter::formatWithICU(double value) const {
   if (!format_) return std::nullopt;
   std::vector<UChar> buffer(64);
   UErrorCode status = U_ZERO_ERROR;

@@ -179,22 +179,29 @@ void appendArc(CodeGenerationStream& s, const PathCommand::AddRelativeArc& arc) 
 
 void appendCommands(CodeGenerationStream& s, const std::vector<PathCommand>& commands) {
   const bool preferInit = s.config().preferInitOverType;
-  const auto point = [&](CGPoint p) { return pointLiteral(s, p, preferInit); };
+  // One line buffer for the whole path: most lines are a call around one or two points.
+  std::string line;
+  const auto pointLine = [&](std::string_view head, CGPoint p, std::string_view tail) {
+    line.assign(head);
+    appendPointLiteral(line, s, p, preferInit);
+    line += tail;
+    s.appendLine(line);
+  };
   for (std::size_t i = 0; i < commands.size(); ++i) {
     std::visit(
         [&](const auto& c) {
           using T = std::decay_t<decltype(c)>;
           if constexpr (std::is_same_v<T, PathCommand::MoveTo>) {
-            s.appendLine("path.move(to: " + point(c.point) + ")");
+            pointLine("path.move(to: ", c.point, ")");
           } else if constexpr (std::is_same_v<T, PathCommand::AddLineTo>) {
-            s.appendLine("path.addLine(to: " + point(c.point) + ")");
+            pointLine("path.addLine(to: ", c.point, ")");
           } else if constexpr (std::is_same_v<T, PathCommand::AddCurveTo>) {
-            s.appendLine("path.addCurve(to: " + point(c.point) + ",");
-            s.appendLine("              control1: " + point(c.control1) + ",");
-            s.appendLine("              control2: " + point(c.control2) + ")");
+            pointLine("path.addCurve(to: ", c.point, ",");
+            pointLine("              control1: ", c.control1, ",");
+            pointLine("              control2: ", c.control2, ")");
           } else if constexpr (std::is_same_v<T, PathCommand::AddQuadCurveTo>) {
-            s.appendLine("path.addQuadCurve(to: " + point(c.point) + ",");
-            s.appendLine("                  control: " + point(c.control) + ")");
+            pointLine("path.addQuadCurve(to: ", c.point, ",");
+            pointLine("                  control: ", c.control, ")");
           } else if constexpr (std::is_same_v<T, PathCommand::AddRelativeArc>) {
             appendArc(s, c);
           } else if constexpr (std::is_same_v<T, PathCommand::AddLines>) {
@@ -202,7 +209,7 @@ void appendCommands(CodeGenerationStream& s, const std::vector<PathCommand>& com
             s.appendLine("path.addLines([");
             s.indented(true, [&] {
               for (std::size_t p = 0; p < c.points.size(); ++p) {
-                s.appendLine(point(c.points[p]) + (p + 1 < c.points.size() ? "," : ""));
+                pointLine("", c.points[p], p + 1 < c.points.size() ? "," : "");
               }
             });
             s.appendLine("])");

@@ -8,8 +8,19 @@
 namespace SVGConverter {
 
 std::string pointLiteral(const CodeGenerationStream& s, CGPoint p, bool preferInit) {
-  return std::string(preferInit ? ".init" : "CGPoint") + "(x: " + s.numberString(p.x) +
-         ", y: " + s.numberString(p.y) + ")";
+  std::string text;
+  appendPointLiteral(text, s, p, preferInit);
+  return text;
+}
+
+void appendPointLiteral(std::string& out, const CodeGenerationStream& s, CGPoint p,
+                        bool preferInit) {
+  // Every path point passes here, so the literal is built in place.
+  out += preferInit ? ".init(x: " : "CGPoint(x: ";
+  s.appendNumber(out, p.x);
+  out += ", y: ";
+  s.appendNumber(out, p.y);
+  out += ')';
 }
 
 std::string sizeLiteral(const CodeGenerationStream& s, CGSize size, bool preferInit) {

@@ -1,8 +1,12 @@
-// The two passes over the XML: the first gathers stylesheets and finds the root, the second
-// builds the tree with the stylesheet already parsed.
+// Reading the XML: one expat run gathers the stylesheets, finds the root and records every
+// event; the tree is then built from the recording with the stylesheet already parsed. Where
+// a fragment's wrapped bytes might not parse like the recording replays, the bytes are read a
+// second time instead.
 #include <expat.h>
 
 #include <climits>
+#include <cstdint>
+#include <limits>
 #include <memory>
 #include <string>
 #include <unordered_set>
@@ -36,6 +40,10 @@ class ExpatRun {
     XML_SetElementHandler(parser_, &ExpatRun::onStart, &ExpatRun::onEnd);
     XML_SetCharacterDataHandler(parser_, &ExpatRun::onCharacters);
     XML_SetCdataSectionHandler(parser_, &ExpatRun::onCdataStart, &ExpatRun::onCdataEnd);
+    if constexpr (requires(Delegate & d) { d.notePrologMarkup(); }) {
+      XML_SetXmlDeclHandler(parser_, &ExpatRun::onXmlDeclaration);
+      XML_SetStartDoctypeDeclHandler(parser_, &ExpatRun::onDoctype);
+    }
 
     constexpr std::size_t largestChunk = INT_MAX / 2;
     if (chunkSize == 0 || chunkSize > largestChunk) chunkSize = largestChunk;
@@ -62,9 +70,14 @@ class ExpatRun {
       XML_StopParser(self.parser_, XML_FALSE);
       return;
     }
-    self.attributes_.clear();
-    for (const XML_Char** a = atts; a[0] != nullptr; a += 2) self.attributes_.emplace_back(a[0], a[1]);
-    self.delegate_.start(name, Attributes(std::move(self.attributes_)));
+    if constexpr (requires(Delegate & d) { d.start(name, atts); }) {
+      self.delegate_.start(name, atts);
+    } else {
+      self.attributes_.clear();
+      for (const XML_Char** a = atts; a[0] != nullptr; a += 2)
+        self.attributes_.emplace_back(a[0], a[1]);
+      self.delegate_.start(name, Attributes(std::move(self.attributes_)));
+    }
   }
   static void XMLCALL onEnd(void* user, const XML_Char* name) {
     auto& self = *static_cast<ExpatRun*>(user);
@@ -77,6 +90,13 @@ class ExpatRun {
   }
   static void XMLCALL onCdataStart(void* user) { ++static_cast<ExpatRun*>(user)->inCdata_; }
   static void XMLCALL onCdataEnd(void* user) { --static_cast<ExpatRun*>(user)->inCdata_; }
+  static void XMLCALL onXmlDeclaration(void* user, const XML_Char*, const XML_Char*, int) {
+    static_cast<ExpatRun*>(user)->delegate_.notePrologMarkup();
+  }
+  static void XMLCALL onDoctype(void* user, const XML_Char*, const XML_Char*, const XML_Char*,
+                                int) {
+    static_cast<ExpatRun*>(user)->delegate_.notePrologMarkup();
+  }
 
   Delegate& delegate_;
   std::size_t maximumDepth_;
@@ -108,10 +128,108 @@ struct StyleCollector {
   }
 };
 
+// The events of one expat run in a compact form: every string lives in one arena, and runs of
+// character data are merged (the tree builder only ever appends them).
+class EventRecording {
+ public:
+  void start(std::string_view name, const XML_Char** atts) {
+    const std::size_t first = spans_.size();
+    add(name);
+    for (const XML_Char** a = atts; a[0] != nullptr; a += 2) {
+      add(a[0]);
+      add(a[1]);
+    }
+    events_.push_back({Event::Kind::start, first, spans_.size() - first});
+  }
+  void end(std::string_view name) {
+    events_.push_back({Event::Kind::end, spans_.size(), 1});
+    add(name);
+  }
+  void characters(std::string_view text) {
+    if (!events_.empty() && events_.back().kind == Event::Kind::characters) {
+      // The previous run's text is the arena's tail, so the two simply join.
+      arena_ += text;
+      spans_.back().length += text.size();
+      return;
+    }
+    events_.push_back({Event::Kind::characters, spans_.size(), 1});
+    add(text);
+  }
+
+  template <class Delegate>
+  void replay(Delegate& delegate) const {
+    std::vector<Attributes::Item> items;
+    for (const Event& event : events_) {
+      switch (event.kind) {
+        case Event::Kind::start:
+          items.clear();
+          for (std::size_t i = event.first + 1; i + 1 < event.first + event.count; i += 2) {
+            items.emplace_back(view(i), view(i + 1));
+          }
+          delegate.start(view(event.first), Attributes(std::move(items)));
+          break;
+        case Event::Kind::end:
+          delegate.end(view(event.first));
+          break;
+        case Event::Kind::characters:
+          delegate.characters(view(event.first));
+          break;
+      }
+    }
+  }
+
+ private:
+  struct Event {
+    enum class Kind : std::uint8_t { start, end, characters };
+    Kind kind;
+    std::size_t first;  // index of the first span: the name, then attribute names and values
+    std::size_t count;
+  };
+  struct Span {
+    std::size_t offset;
+    std::size_t length;
+  };
+
+  void add(std::string_view text) {
+    spans_.push_back({arena_.size(), text.size()});
+    arena_ += text;
+  }
+  std::string_view view(std::size_t index) const {
+    return std::string_view(arena_).substr(spans_[index].offset, spans_[index].length);
+  }
+
+  std::string arena_;
+  std::vector<Span> spans_;
+  std::vector<Event> events_;
+};
+
+// The single expat run: collects stylesheets, records the events, and notes any XML
+// declaration or DOCTYPE, after which wrapped bytes would no longer parse.
+struct RecordingPass {
+  StyleCollector collector;
+  EventRecording recording;
+  bool sawPrologMarkup = false;
+
+  void start(std::string_view name, const XML_Char** atts) {
+    collector.start(name, Attributes{});
+    recording.start(name, atts);
+  }
+  void end(std::string_view name) {
+    collector.end(name);
+    recording.end(name);
+  }
+  void characters(std::string_view text) {
+    collector.characters(text);
+    recording.characters(text);
+  }
+  void notePrologMarkup() { sawPrologMarkup = true; }
+};
+
 // Second pass: builds the tree.
 class Handler {
  public:
-  Handler(std::string_view cssString, const Report& report) : css_(cssString, report), report_(report) {}
+  Handler(std::string_view cssString, const Report& report)
+      : css_(cssString, report), report_(report) {}
 
   void start(std::string_view name, const Attributes& attributes);
   void end(std::string_view name);
@@ -189,7 +307,8 @@ void Handler::start(std::string_view name, const Attributes& attributes) {
       if (auto path = SVG::Path::read(attributes, resolver(attributes), report_, &error)) {
         addItem({std::move(*path)});
       } else if (report_.enabled()) {
-        report_.print({"could not parse path:", attributes.description(), "  error:", error.description()});
+        report_.print(
+            {"could not parse path:", attributes.description(), "  error:", error.description()});
       }
       break;
     }
@@ -369,14 +488,26 @@ bool runPass(std::string_view data, Delegate& delegate, const ParseOptions& opti
   return ok;
 }
 
-}  // namespace
+// Whether parsing the fragment inside an `svg` start and end tag gives exactly the recorded
+// events with that `svg` around them. Expat refuses an XML declaration or a DOCTYPE that is not
+// at the start of the document; and with a byte order mark, or bytes that could be taken for
+// UTF-16, the encoding expat detects could change once the text no longer starts the document.
+// Everything else that may precede or follow a single root (white space, comments, processing
+// instructions) means the same inside an element.
+bool wrappingKeepsEvents(std::string_view data, const RecordingPass& pass) {
+  if (pass.sawPrologMarkup || data.size() < 2) return false;
+  const char first = data[0];
+  const bool plainStart =
+      first == '<' || first == ' ' || first == '\t' || first == '\n' || first == '\r';
+  return plainStart && data[1] != '\0';
+}
 
-std::optional<SVG> parse(std::string_view data, const ParseOptions& options, const Report& report) {
-  StyleCollector collector;
-  if (!runPass(data, collector, options, report)) return std::nullopt;
-
+// The tree from text read the old way: stylesheets in one expat run, the tree in a second run
+// over the bytes (wrapped when they are a fragment).
+std::optional<SVG> parseTwice(std::string_view data, const std::string& cssString, bool wrap,
+                              const ParseOptions& options, const Report& report) {
   std::string wrapped;
-  if (!collector.hadRootSVG && options.wrapFragments && !data.empty()) {
+  if (wrap) {
     wrapped.reserve(data.size() + 48);
     wrapped += "<svg xmlns=\"";
     wrapped += svgNamespace;
@@ -386,11 +517,33 @@ std::optional<SVG> parse(std::string_view data, const ParseOptions& options, con
     data = wrapped;
   }
 
-  Handler handler(collector.cssString, report);
-  // The depth check already ran on these bytes; wrapping adds one level.
+  Handler handler(cssString, report);
+  // The depth check already ran on these bytes; wrapping adds one level (saturating, so the
+  // largest limit stays the largest).
   ParseOptions second = options;
-  second.maximumDepth = options.maximumDepth + 1;
+  if (second.maximumDepth < std::numeric_limits<std::size_t>::max()) ++second.maximumDepth;
   if (!runPass(data, handler, second, report)) return std::nullopt;
+  return std::move(handler).result();
+}
+
+}  // namespace
+
+std::optional<SVG> parse(std::string_view data, const ParseOptions& options, const Report& report) {
+  RecordingPass pass;
+  if (!runPass(data, pass, options, report)) return std::nullopt;
+
+  const bool wrap = !pass.collector.hadRootSVG && options.wrapFragments && !data.empty();
+  if (wrap && !wrappingKeepsEvents(data, pass)) {
+    return parseTwice(data, pass.collector.cssString, wrap, options, report);
+  }
+
+  Handler handler(pass.collector.cssString, report);
+  if (wrap) {
+    const std::string_view xmlns = svgNamespace;
+    handler.start("svg", Attributes{{"xmlns", xmlns}});
+  }
+  pass.recording.replay(handler);
+  if (wrap) handler.end("svg");
   return std::move(handler).result();
 }
 

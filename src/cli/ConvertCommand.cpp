@@ -13,6 +13,7 @@
 
 #include "AppSupport.h"
 #include "Commands.h"
+#include "Highlighting.h"
 #include "Input.h"
 #include "SVGConverter/IDPool.h"
 #include "SVGFigurerApp/AtomicFile.h"
@@ -38,6 +39,8 @@ struct ConvertOptions {
   std::optional<int> maximumFractionDigits;
   // Each switch pairs "--name" with "--no-name"; only switches given on the line apply.
   std::map<std::string, bool> switches;
+  std::string color = "auto";  // "always", "never", or "auto": only on a terminal
+  std::string theme = "light";
 };
 
 struct Switch {
@@ -117,7 +120,13 @@ void convertOne(const ConvertOptions& options, const SVGFigurerConfiguration& co
   if (!input) throw CLI::RuntimeError(2);
   const auto generated =
       SVGFigurerApp::generateSwift(input->text, config, stderrLogger(), stderrReport());
-  std::cout << generated.text << std::flush;
+  const bool colour =
+      options.color == "always" || (options.color == "auto" && ::isatty(STDOUT_FILENO) == 1);
+  std::optional<std::string> coloured;
+  if (colour && !generated.text.empty()) {
+    coloured = highlightForTerminal(generated.text, "swift", options.theme);
+  }
+  std::cout << coloured.value_or(generated.text) << std::flush;
   if (generated.failed) {
     printError("could not parse SVG: " + input->name);
     throw CLI::RuntimeError(1);
@@ -189,6 +198,14 @@ void addConvertCommand(CLI::App& app) {
                                   "Start from the first-launch settings, not the saved default");
   command->add_option("--config", options->configFile, "Start from the settings in a JSON file")
       ->excludes(fresh);
+  command->add_flag_callback(
+      "--color", [options] { options->color = "always"; },
+      "Colour the generated Swift (the default when standard output is a terminal)");
+  command->add_flag_callback(
+      "--no-color", [options] { options->color = "never"; }, "Never colour the generated Swift");
+  command->add_option("--theme", options->theme, "Colour theme for --color")
+      ->check(CLI::IsMember({"light", "classic", "dark"}))
+      ->capture_default_str();
   command->add_option("--root-view-name", options->rootViewName, "Name of the root view");
   command->add_option("--indent-using", options->indentUsing, "Indent with spaces or tabs")
       ->check(CLI::IsMember({"spaces", "tabs"}));

@@ -10,6 +10,7 @@
 #include "Commands.h"
 #include "Highlight/HighlightJS.h"
 #include "Highlight/Rendering.h"
+#include "Highlighting.h"
 #include "Input.h"
 
 namespace svgfigurer::cli {
@@ -42,6 +43,15 @@ std::string render(const Highlight::StyledText& text, const std::string& format,
   return Highlight::renderPlain(text);
 }
 
+// The script engine needs an application object; the commands have no event loop of their own.
+std::unique_ptr<QCoreApplication> makeApplication() {
+  static int argc = 1;
+  static char name[] = "svgfigurer";
+  static char* argv[] = {name, nullptr};
+  if (QCoreApplication::instance()) return nullptr;
+  return std::make_unique<QCoreApplication>(argc, argv);
+}
+
 void runHighlight(const HighlightOptions& options) {
   auto input = readInput(options.path);
   if (!input) throw CLI::RuntimeError(2);
@@ -50,13 +60,7 @@ void runHighlight(const HighlightOptions& options) {
                                                      : "plain";
   const Highlight::StyledText plain(Highlight::fromUTF8(input->text), {});
 
-  // The script engine needs an application object; the command has no event loop of its own.
-  static int argc = 1;
-  static char name[] = "svgfigurer";
-  static char* argv[] = {name, nullptr};
-  std::unique_ptr<QCoreApplication> app;
-  if (!QCoreApplication::instance()) app = std::make_unique<QCoreApplication>(argc, argv);
-
+  const auto app = makeApplication();
   auto highlighter =
       Highlight::HighlightJS::load({std::nullopt, nullptr, Highlight::inlineExecutor()});
   if (!highlighter) {
@@ -78,6 +82,19 @@ void runHighlight(const HighlightOptions& options) {
 }
 
 }  // namespace
+
+std::optional<std::string> highlightForTerminal(const std::string& text, const std::string& language,
+                                                const std::string& theme) {
+  const auto app = makeApplication();
+  auto highlighter =
+      Highlight::HighlightJS::load({std::nullopt, nullptr, Highlight::inlineExecutor()});
+  if (!highlighter) return std::nullopt;
+  std::optional<std::string> name;
+  if (!language.empty()) name = language;
+  auto styled = highlighter->highlightAndWait(Highlight::fromUTF8(text), name, themeNamed(theme));
+  if (!styled) return std::nullopt;
+  return Highlight::renderANSI(*styled);
+}
 
 void addHighlightCommand(CLI::App& app) {
   auto* command = app.add_subcommand("highlight", "Colour source text with highlight.js");

@@ -62,6 +62,8 @@ class CodeGenerationStream {
   // formatter has none. NaN and infinities, which no formatter setting turns into a literal
   // of the generated language, print as ".nan", ".infinity" and "-.infinity".
   std::string numberString(double value) const;
+  // The same text appended to `out`, for lines built piece by piece.
+  void appendNumber(std::string& out, double value) const;
 
  private:
   class Indent {

@@ -13,6 +13,8 @@
 namespace SVGConverter {
 
 std::string pointLiteral(const CodeGenerationStream& s, CGPoint p, bool preferInit);
+void appendPointLiteral(std::string& out, const CodeGenerationStream& s, CGPoint p,
+                        bool preferInit);
 std::string sizeLiteral(const CodeGenerationStream& s, CGSize size, bool preferInit);
 // X and Y as plain double text, width and height through `numberString`:
 // "CGRect(x: 0.0, y: 0.0, width: 24, height: 24)".
