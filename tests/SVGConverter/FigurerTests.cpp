@@ -218,7 +218,8 @@ TEST(Sizes, NestedWidthOnlyTakesHeightFromParent) {
   SVG svg = svgOf({item(nested)});
   svg.width = UL::number(300);
   svg.height = UL::number(200);
-  const auto& inner = child<ContainerViewType>(model(svg), 0);
+  const auto result = model(svg);
+  const auto& inner = child<ContainerViewType>(result, 0);
   EXPECT_EQ(inner.intrinsicSize, (CGSize{100, 200}));
   EXPECT_EQ(inner.resizable, (SwiftUIModel::Resizable{100, 200}));
 }
