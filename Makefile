@@ -6,7 +6,7 @@ BUILD_DIR := build/$(PRESET)
 CLI := $(BUILD_DIR)/src/cli/svgfigurer
 JOBS ?= $(shell nproc)
 
-.PHONY: all deps configure build test run asan-test fuzz bench format clean
+.PHONY: all deps configure build test run asan-test tsan-test fuzz bench format clean
 
 all: build
 
@@ -28,6 +28,10 @@ run: build
 
 asan-test:
 	$(MAKE) test PRESET=asan
+
+# The engine and the concurrency tests under ThreadSanitizer.
+tsan-test:
+	$(MAKE) test PRESET=tsan
 
 fuzz: deps
 	cmake --preset fuzz

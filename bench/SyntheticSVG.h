@@ -1,12 +1,18 @@
 // Generated benchmark inputs, the same bytes on every run.
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 namespace bench {
 
+// At least `bytes` of SVG in the shape below; the same bytes for the same size on every run.
+std::string pathSVG(std::size_t bytes);
+
 // About 2 MB of SVG: groups of paths with curves, arcs and styling, as icon sets and drawing
 // tools write them.
 const std::string& largePathSVG();
+// The same shape at 50 MB, for throughput and memory at scale.
+const std::string& hugePathSVG();
 
 }  // namespace bench

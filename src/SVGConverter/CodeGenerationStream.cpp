@@ -3,26 +3,47 @@
 #include <cmath>
 
 #include "CoreS/DoubleText.h"
+#include "SVGConverter/FixedDecimalText.h"
 #include "SVGConverter/NumberFormatter.h"
 
 namespace SVGConverter {
 
-CodeGenerationStream::CodeGenerationStream(Config config)
+CodeGenerationStream::CodeGenerationStream(Config config, std::string textBefore)
     : config_(std::move(config)),
       numberFormatter_(std::make_unique<NumberFormatter>(config_.maximumFractionDigits,
-                                                         config_.useThousandsSeparator)) {}
+                                                         config_.useThousandsSeparator)),
+      swift_(std::move(textBefore)) {}
+
+CodeGenerationStream::CodeGenerationStream(Config config, SVGSwiftUIExporter::TextSink sink)
+    : CodeGenerationStream(std::move(config)) {
+  sink_ = std::move(sink);
+  swift_.reserve(flushSize + flushSize / 4);
+}
 
 CodeGenerationStream::~CodeGenerationStream() = default;
 
+void CodeGenerationStream::flush() {
+  if (!sink_ || swift_.empty()) return;
+  sink_(swift_);
+  flushedEndsLine_ = swift_.back() == '\n';
+  swift_.clear();
+}
+
+bool CodeGenerationStream::endsLine() const {
+  return swift_.empty() ? flushedEndsLine_ : swift_.back() == '\n';
+}
+
 void CodeGenerationStream::setDepth(int depth) {
   indent_ = depth;
-  prefix_.clear();
-  for (int level = 0; level < indent_; ++level) prefix_ += config_.indentString;
+  const std::size_t length = static_cast<std::size_t>(depth) * config_.indentString.size();
+  while (indentRun_.size() < length) indentRun_ += config_.indentString;
+  prefix_ = std::string_view(indentRun_).substr(0, length);
 }
 
 void CodeGenerationStream::appendBlankLine() {
   if (config_.indentEmptyLines) swift_ += prefix_;
   swift_ += '\n';
+  wrote();
 }
 
 void CodeGenerationStream::appendLine(std::string_view text,
@@ -43,6 +64,7 @@ void CodeGenerationStream::appendLine(std::string_view text,
     swift_ += *info;
   }
   swift_ += '\n';
+  wrote();
 }
 
 void CodeGenerationStream::appendCommentedLine(std::string_view text, std::string_view comment) {
@@ -51,6 +73,7 @@ void CodeGenerationStream::appendCommentedLine(std::string_view text, std::strin
   swift_ += " // ";
   swift_ += comment;
   swift_ += '\n';
+  wrote();
 }
 
 void CodeGenerationStream::appendInfoComment(std::string_view text) {
@@ -59,6 +82,7 @@ void CodeGenerationStream::appendInfoComment(std::string_view text) {
   swift_ += "// ";
   swift_ += text;
   swift_ += '\n';
+  wrote();
 }
 
 void CodeGenerationStream::appendIndentedText(std::string_view text) {
@@ -67,6 +91,7 @@ void CodeGenerationStream::appendIndentedText(std::string_view text) {
     swift_ += prefix_;
     swift_ += text.substr(0, end);
     swift_ += '\n';
+    wrote();
     if (end == std::string_view::npos) break;
     text.remove_prefix(end + 1);
   }
@@ -81,7 +106,8 @@ void CodeGenerationStream::openBlock(std::string_view header,
     swift_ += " // ";
     swift_ += *comment;
   }
-  if (swift_.empty() || swift_.back() != '\n') swift_ += '\n';
+  if (!endsLine()) swift_ += '\n';
+  wrote();
 }
 
 std::string CodeGenerationStream::numberString(double value) const {
@@ -98,6 +124,13 @@ void CodeGenerationStream::appendNumber(std::string& out, double value) const {
   } else if (!numberFormatter_->appendTo(out, value)) {
     out += CoreS::swiftDoubleDescription(value);
   }
+}
+
+bool CodeGenerationStream::writeNumberQuickly(char*& cursor, double value) const {
+  char* end = writeFixedDecimalQuickly(cursor, value, config_.maximumFractionDigits);
+  if (end == nullptr) return false;
+  cursor = end;
+  return true;
 }
 
 }  // namespace SVGConverter

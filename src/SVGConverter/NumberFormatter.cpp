@@ -23,19 +23,24 @@ void setSymbol(UNumberFormat* format, UNumberFormatSymbol symbol, const UChar* t
 }  // namespace
 
 NumberFormatter::NumberFormatter(int maximumFractionDigits, bool useThousandsSeparator)
-    : maximumFractionDigits_(std::clamp(maximumFractionDigits, 0, largestFractionDigits)) {
+    : maximumFractionDigits_(std::clamp(maximumFractionDigits, 0, largestFractionDigits)),
+      useThousandsSeparator_(useThousandsSeparator) {}
+
+UNumberFormat* NumberFormatter::icuFormat() const {
+  if (opened_) return format_.get();
+  opened_ = true;
   UErrorCode status = U_ZERO_ERROR;
   static const UChar pattern[] = {u'#', 0};
   format_.reset(unum_open(UNUM_PATTERN_DECIMAL, pattern, -1, "en_US_POSIX", nullptr, &status));
   if (U_FAILURE(status)) {
     format_.reset();
-    return;
+    return nullptr;
   }
   UNumberFormat* format = format_.get();
   setSymbol(format, UNUM_DECIMAL_SEPARATOR_SYMBOL, u".", status);
   // The generated language's digit separator. The formatter never groups, so it only names
   // the separator: 1234.5 stays "1234.5".
-  if (useThousandsSeparator) setSymbol(format, UNUM_GROUPING_SEPARATOR_SYMBOL, u"_", status);
+  if (useThousandsSeparator_) setSymbol(format, UNUM_GROUPING_SEPARATOR_SYMBOL, u"_", status);
   unum_setAttribute(format, UNUM_GROUPING_USED, 0);
   // "#" alone would print 0.5 as ".5", which the generated language does not accept.
   unum_setAttribute(format, UNUM_MIN_INTEGER_DIGITS, 1);
@@ -43,6 +48,7 @@ NumberFormatter::NumberFormatter(int maximumFractionDigits, bool useThousandsSep
   unum_setAttribute(format, UNUM_MAX_FRACTION_DIGITS, maximumFractionDigits_);
   unum_setAttribute(format, UNUM_ROUNDING_MODE, UNUM_ROUND_HALFEVEN);
   if (U_FAILURE(status)) format_.reset();
+  return format_.get();
 }
 
 std::optional<std::string> NumberFormatter::format(double value) const {
@@ -52,7 +58,6 @@ std::optional<std::string> NumberFormatter::format(double value) const {
 }
 
 bool NumberFormatter::appendTo(std::string& out, double value) const {
-  if (!format_) return false;
   if (appendFixedDecimal(out, value, maximumFractionDigits_)) return true;
   auto text = formatWithICU(value);
   if (!text) return false;
@@ -61,16 +66,17 @@ bool NumberFormatter::appendTo(std::string& out, double value) const {
 }
 
 std::optional<std::string> NumberFormatter::formatWithICU(double value) const {
-  if (!format_) return std::nullopt;
+  UNumberFormat* format = icuFormat();
+  if (!format) return std::nullopt;
   std::vector<UChar> buffer(64);
   UErrorCode status = U_ZERO_ERROR;
-  int32_t length = unum_formatDouble(format_.get(), value, buffer.data(),
+  int32_t length = unum_formatDouble(format, value, buffer.data(),
                                      static_cast<int32_t>(buffer.size()), nullptr, &status);
   if (status == U_BUFFER_OVERFLOW_ERROR) {
     buffer.resize(static_cast<std::size_t>(length) + 1);
     status = U_ZERO_ERROR;
-    length = unum_formatDouble(format_.get(), value, buffer.data(),
-                               static_cast<int32_t>(buffer.size()), nullptr, &status);
+    length = unum_formatDouble(format, value, buffer.data(), static_cast<int32_t>(buffer.size()),
+                               nullptr, &status);
   }
   if (U_FAILURE(status)) return std::nullopt;
 

@@ -85,14 +85,8 @@ void appendPreviewProvider(CodeGenerationStream& s, const ContainerViewType& roo
   });
 }
 
-}  // namespace
-
-}  // namespace SVGConverter
-
-std::string SVGSwiftUIExporter::generate(const SVG& svg, const Config& config,
-                                         const SVGParser::Report& report) {
-  using namespace SVGConverter;
-  CodeGenerationStream s(config);
+void writeFile(CodeGenerationStream& s, const SVG& svg, const SVGSwiftUIExporter::Config& config,
+               const SVGParser::Report& report) {
   if (config.generateImport) {
     s.appendLine("import SwiftUI");
     s.appendBlankLine();
@@ -107,5 +101,29 @@ std::string SVGSwiftUIExporter::generate(const SVG& svg, const Config& config,
     appendColorExtension(s);
   }
   if (config.generatePreviewProvider) appendPreviewProvider(s, root);
-  return s.takeText();
+}
+
+}  // namespace
+
+}  // namespace SVGConverter
+
+std::string SVGSwiftUIExporter::generate(const SVG& svg, const Config& config,
+                                         const SVGParser::Report& report) {
+  std::string text;
+  generate(svg, config, report, text);
+  return text;
+}
+
+void SVGSwiftUIExporter::generate(const SVG& svg, const Config& config,
+                                  const SVGParser::Report& report, std::string& text) {
+  SVGConverter::CodeGenerationStream s(config, std::move(text));
+  SVGConverter::writeFile(s, svg, config, report);
+  text = s.takeText();
+}
+
+void SVGSwiftUIExporter::generate(const SVG& svg, const Config& config,
+                                  const SVGParser::Report& report, const TextSink& sink) {
+  SVGConverter::CodeGenerationStream s(config, sink);
+  SVGConverter::writeFile(s, svg, config, report);
+  s.flush();
 }

@@ -1,5 +1,6 @@
 // The nested view struct of each shape child: a `Shape` with its path for path-like views, and
 // the stroke and fill chain that every shape shares.
+#include <algorithm>
 #include <string>
 #include <type_traits>
 #include <variant>
@@ -153,26 +154,36 @@ void appendSimpleShapeBody(CodeGenerationStream& s, const std::string& shape,
   });
 }
 
-void appendArc(CodeGenerationStream& s, const PathCommand::AddRelativeArc& arc) {
-  std::string line =
-      "path.addRelativeArc(center: " + pointLiteral(s, arc.center, s.config().preferInitOverType) +
-      ", radius: " + s.numberString(arc.radius) +
-      ", startAngle: Angle(radians: " + s.numberString(arc.startAngle) +
-      "), delta: Angle(radians: " + s.numberString(arc.delta) + "))";
+void appendArc(CodeGenerationStream& s, const PathCommand::AddRelativeArc& arc, std::string& line) {
+  line.assign("path.addRelativeArc(center: ");
+  appendPointLiteral(line, s, arc.center, s.config().preferInitOverType);
+  line += ", radius: ";
+  s.appendNumber(line, arc.radius);
+  line += ", startAngle: Angle(radians: ";
+  s.appendNumber(line, arc.startAngle);
+  line += "), delta: Angle(radians: ";
+  s.appendNumber(line, arc.delta);
+  line += "))";
   if (arc.transform.empty()) {
     s.appendLine(line);
     return;
   }
   // The call keeps the doubled parenthesis after the delta, as generated files always had it.
-  const auto steps = transformStepTexts(s, arc.transform, false);
-  if (steps.size() == 1) {
-    s.appendLine(line + ", transform: " + steps.front() + ")");
+  line += ", transform: ";
+  appendFirstStepText(line, s, arc.transform.front(), false);
+  if (arc.transform.size() == 1) {
+    line += ')';
+    s.appendLine(line);
     return;
   }
   // The further steps one level deeper, and the closing ")" alone at column zero.
-  s.appendLine(line + ", transform: " + steps.front());
+  s.appendLine(line);
   s.indented(true, [&] {
-    for (std::size_t i = 1; i < steps.size(); ++i) s.appendLine(steps[i]);
+    for (std::size_t i = 1; i < arc.transform.size(); ++i) {
+      line.clear();
+      appendChainedStepText(line, s, arc.transform[i]);
+      s.appendLine(line);
+    }
   });
   s.appendVerbatim(")\n");
 }
@@ -182,6 +193,16 @@ void appendCommands(CodeGenerationStream& s, const std::vector<PathCommand>& com
   // One line buffer for the whole path: most lines are a call around one or two points.
   std::string line;
   const auto pointLine = [&](std::string_view head, CGPoint p, std::string_view tail) {
+    // Nearly every line takes the quick road through one stack buffer.
+    char buffer[2 * maximumPointLiteralLength];
+    if (head.size() + tail.size() <= maximumPointLiteralLength) {
+      char* cursor = std::copy(head.begin(), head.end(), buffer);
+      if (writePointLiteral(cursor, s, p, preferInit)) {
+        cursor = std::copy(tail.begin(), tail.end(), cursor);
+        s.appendLine(std::string_view(buffer, static_cast<std::size_t>(cursor - buffer)));
+        return;
+      }
+    }
     line.assign(head);
     appendPointLiteral(line, s, p, preferInit);
     line += tail;
@@ -203,7 +224,7 @@ void appendCommands(CodeGenerationStream& s, const std::vector<PathCommand>& com
             pointLine("path.addQuadCurve(to: ", c.point, ",");
             pointLine("                  control: ", c.control, ")");
           } else if constexpr (std::is_same_v<T, PathCommand::AddRelativeArc>) {
-            appendArc(s, c);
+            appendArc(s, c, line);
           } else if constexpr (std::is_same_v<T, PathCommand::AddLines>) {
             if (c.points.empty()) return;
             s.appendLine("path.addLines([");

@@ -1,6 +1,9 @@
 #include "SVGConverter/ValueLiterals.h"
 
+#include <algorithm>
+#include <initializer_list>
 #include <type_traits>
+#include <utility>
 #include <variant>
 
 #include "CoreS/DoubleText.h"
@@ -21,6 +24,24 @@ void appendPointLiteral(std::string& out, const CodeGenerationStream& s, CGPoint
   out += ", y: ";
   s.appendNumber(out, p.y);
   out += ')';
+}
+
+namespace {
+
+char* put(char* cursor, std::string_view text) {
+  return std::copy(text.begin(), text.end(), cursor);
+}
+
+}  // namespace
+
+bool writePointLiteral(char*& cursor, const CodeGenerationStream& s, CGPoint p, bool preferInit) {
+  char* end = put(cursor, preferInit ? ".init(x: " : "CGPoint(x: ");
+  if (!s.writeNumberQuickly(end, p.x)) return false;
+  end = put(end, ", y: ");
+  if (!s.writeNumberQuickly(end, p.y)) return false;
+  *end++ = ')';
+  cursor = end;
+  return true;
 }
 
 std::string sizeLiteral(const CodeGenerationStream& s, CGSize size, bool preferInit) {
@@ -68,53 +89,89 @@ namespace {
 
 using Step = SwiftUIModel::TransformStep;
 
-std::string matrixText(const CodeGenerationStream& s, const CGAffineTransform& t, bool preferInit) {
-  if (t == CGAffineTransformIdentity) {
-    return preferInit ? ".identity" : "CGAffineTransform.identity";
+// Appends "(" label value [", " label value ...] ")", each value through the formatter.
+void appendCall(std::string& out, const CodeGenerationStream& s,
+                std::initializer_list<std::pair<std::string_view, double>> arguments) {
+  out += '(';
+  bool first = true;
+  for (const auto& [label, value] : arguments) {
+    if (!first) out += ", ";
+    first = false;
+    out += label;
+    s.appendNumber(out, value);
   }
-  return std::string(preferInit ? ".init" : "CGAffineTransform") + "(a: " + s.numberString(t.a) +
-         ", b: " + s.numberString(t.b) + ", c: " + s.numberString(t.c) +
-         ", d: " + s.numberString(t.d) + ", tx: " + s.numberString(t.tx) +
-         ", ty: " + s.numberString(t.ty) + ")";
+  out += ')';
+}
+
+void appendMatrixText(std::string& out, const CodeGenerationStream& s, const CGAffineTransform& t,
+                      bool preferInit) {
+  if (t == CGAffineTransformIdentity) {
+    out += preferInit ? ".identity" : "CGAffineTransform.identity";
+    return;
+  }
+  out += preferInit ? ".init" : "CGAffineTransform";
+  appendCall(
+      out, s,
+      {{"a: ", t.a}, {"b: ", t.b}, {"c: ", t.c}, {"d: ", t.d}, {"tx: ", t.tx}, {"ty: ", t.ty}});
 }
 
 }  // namespace
 
-std::string firstStepText(const CodeGenerationStream& s, const Step& step, bool preferInit) {
-  const std::string base = preferInit ? ".init" : "CGAffineTransform";
-  return std::visit(
-      [&](const auto& v) -> std::string {
+void appendFirstStepText(std::string& out, const CodeGenerationStream& s, const Step& step,
+                         bool preferInit) {
+  const std::string_view base = preferInit ? ".init" : "CGAffineTransform";
+  std::visit(
+      [&](const auto& v) {
         using T = std::decay_t<decltype(v)>;
         if constexpr (std::is_same_v<T, Step::Translate>) {
-          return base + "(translationX: " + s.numberString(v.dx) + ", y: " + s.numberString(v.dy) +
-                 ")";
+          out += base;
+          appendCall(out, s, {{"translationX: ", v.dx}, {"y: ", v.dy}});
         } else if constexpr (std::is_same_v<T, Step::Rotate>) {
-          return base + "(rotationAngle: " + s.numberString(v.angle) + ")";
+          out += base;
+          appendCall(out, s, {{"rotationAngle: ", v.angle}});
         } else if constexpr (std::is_same_v<T, Step::Scale>) {
-          return base + "(scaleX: " + s.numberString(v.x) + ", y: " + s.numberString(v.y) + ")";
+          out += base;
+          appendCall(out, s, {{"scaleX: ", v.x}, {"y: ", v.y}});
         } else {
-          return matrixText(s, v.transform, preferInit);
+          appendMatrixText(out, s, v.transform, preferInit);
         }
       },
       step.value);
 }
 
-std::string chainedStepText(const CodeGenerationStream& s, const Step& step) {
-  return std::visit(
-      [&](const auto& v) -> std::string {
+void appendChainedStepText(std::string& out, const CodeGenerationStream& s, const Step& step) {
+  std::visit(
+      [&](const auto& v) {
         using T = std::decay_t<decltype(v)>;
         if constexpr (std::is_same_v<T, Step::Translate>) {
-          return ".translatedBy(x: " + s.numberString(v.dx) + ", y: " + s.numberString(v.dy) + ")";
+          out += ".translatedBy";
+          appendCall(out, s, {{"x: ", v.dx}, {"y: ", v.dy}});
         } else if constexpr (std::is_same_v<T, Step::Rotate>) {
           // Spelled as the generated files have always had it.
-          return ".rotatedy(x: " + s.numberString(v.angle) + ")";
+          out += ".rotatedy";
+          appendCall(out, s, {{"x: ", v.angle}});
         } else if constexpr (std::is_same_v<T, Step::Scale>) {
-          return ".scaledBy(x: " + s.numberString(v.x) + ", y: " + s.numberString(v.y) + ")";
+          out += ".scaledBy";
+          appendCall(out, s, {{"x: ", v.x}, {"y: ", v.y}});
         } else {
-          return ".concatenating(" + matrixText(s, v.transform, false) + ")";
+          out += ".concatenating(";
+          appendMatrixText(out, s, v.transform, false);
+          out += ')';
         }
       },
       step.value);
+}
+
+std::string firstStepText(const CodeGenerationStream& s, const Step& step, bool preferInit) {
+  std::string text;
+  appendFirstStepText(text, s, step, preferInit);
+  return text;
+}
+
+std::string chainedStepText(const CodeGenerationStream& s, const Step& step) {
+  std::string text;
+  appendChainedStepText(text, s, step);
+  return text;
 }
 
 std::vector<std::string> transformStepTexts(const CodeGenerationStream& s,

@@ -430,6 +430,8 @@ void Handler::end(std::string_view name) {
       break;
     case ElementKind::g:
       if (!groupStack_.empty() && std::holds_alternative<SVG::Group>(groupStack_.back())) {
+        // Items are large and the tree lives through the whole conversion: no spare capacity.
+        std::get<SVG::Group>(groupStack_.back()).children.shrink_to_fit();
         SVG::GroupItem item{std::get<SVG::Group>(std::move(groupStack_.back()))};
         groupStack_.pop_back();
         addItem(std::move(item));
@@ -437,6 +439,9 @@ void Handler::end(std::string_view name) {
       break;
     case ElementKind::svg:
       // The root stays on the stack: it is the result.
+      if (!groupStack_.empty() && std::holds_alternative<SVG>(groupStack_.back())) {
+        std::get<SVG>(groupStack_.back()).children.shrink_to_fit();
+      }
       if (groupStack_.size() >= 2 && std::holds_alternative<SVG>(groupStack_.back())) {
         SVG::GroupItem item{std::get<SVG>(std::move(groupStack_.back()))};
         groupStack_.pop_back();

@@ -73,11 +73,13 @@ Command::ParserError byteError(Command::ParserError::Kind kind, unsigned char by
 // Most path numbers have few digits: an integer mantissa of at most 2^53 and a power of ten of
 // at most 10^22 are both exact doubles, so one division gives the correctly rounded value that
 // the general conversion would. Anything else (no digit, long mantissas) is left to it.
+constexpr double kPowersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                   1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                   1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+constexpr std::uint64_t kLargestExactMantissa = std::uint64_t(1) << 53;
+
 std::optional<double> convertShortDecimal(std::string_view text) {
-  static constexpr double kPowersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                            1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
-                                            1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
-  constexpr std::uint64_t kLargestExact = std::uint64_t(1) << 53;
+  constexpr std::uint64_t kLargestExact = kLargestExactMantissa;
   std::size_t i = 0;
   const bool negative = !text.empty() && text[0] == '-';
   if (negative) ++i;
@@ -139,6 +141,11 @@ class PathDataParser {
   Command::ParseResult run() {
     for (position_ = 0; position_ < text_.size(); ++position_) {
       const auto byte = static_cast<unsigned char>(text_[position_]);
+      // A digit inside an open number (only ever open while collecting) just extends it.
+      if (numberLength_ > 0 && isDigit(byte)) {
+        appendDigit(byte);
+        continue;
+      }
       const bool ok = collecting_ ? takeArgumentByte(byte) : takeCommandByte(byte);
       if (!ok) return failure();
     }
@@ -255,16 +262,47 @@ class PathDataParser {
 
   // The collected bytes are always one contiguous run of the text: every byte that is not
   // appended while a number is open ends that number.
+  // The value of a short decimal is gathered on the way, sparing a second scan of its bytes.
   void append() {
-    if (numberLength_ == 0) numberStart_ = position_;
+    if (numberLength_ == 0) {
+      numberStart_ = position_;
+      mantissa_ = 0;
+      digits_ = 0;
+      fractionDigits_ = 0;
+    }
+    const auto byte = static_cast<unsigned char>(text_[position_]);
+    if (isDigit(byte)) {
+      appendDigit(byte);
+    } else {
+      ++numberLength_;
+    }
+  }
+
+  void appendDigit(unsigned char byte) {
     ++numberLength_;
+    if (mantissa_ <= kLargestExactMantissa) mantissa_ = mantissa_ * 10 + std::uint64_t(byte - '0');
+    ++digits_;
+    fractionDigits_ += seenDot_ ? 1 : 0;
+  }
+
+  // What `convertShortDecimal` gives for the collected bytes, which are always an optional
+  // "-", digits and at most one ".": nothing where the slower conversion must decide.
+  std::optional<double> gatheredValue() const {
+    if (digits_ == 0 || mantissa_ > kLargestExactMantissa ||
+        fractionDigits_ >= std::size(kPowersOfTen)) {
+      return std::nullopt;
+    }
+    const double magnitude = double(mantissa_) / kPowersOfTen[fractionDigits_];
+    return text_[numberStart_] == '-' ? -magnitude : magnitude;
   }
 
   bool storeNumber() {
     const std::string_view number = text_.substr(numberStart_, numberLength_);
     numberLength_ = 0;
     seenDot_ = false;
-    const auto value = convertNumber(number);
+    // A flush with no number open finds the figures of the previous number still gathered.
+    auto value = number.empty() ? std::nullopt : gatheredValue();
+    if (!value) value = convertNumber(number);
     if (!value) {
       error_ = makeError(Command::ParserError::Kind::couldNotParseNumber);
       error_.text = std::string(number);
@@ -298,6 +336,9 @@ class PathDataParser {
   std::size_t numberStart_ = 0;
   std::size_t numberLength_ = 0;
   bool seenDot_ = false;
+  std::uint64_t mantissa_ = 0;
+  std::size_t digits_ = 0;
+  std::size_t fractionDigits_ = 0;
   Command::ParserError error_;
 };
 

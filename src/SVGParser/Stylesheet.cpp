@@ -1,5 +1,6 @@
 // Stylesheets: comments, declarations, rules with their selectors, and the per-element fold
 // of class rules, id rules and the style attribute.
+#include <array>
 #include <string>
 
 #include "SVGParser/CSS.h"
@@ -11,6 +12,27 @@ namespace text = SVGParser::text;
 
 void merge(CSS::Declarations& into, const CSS::Declarations& from) {
   for (const auto& [name, value] : from) into.insert_or_assign(name, value);
+}
+
+// The properties that some element reader asks the resolver for. A rule may hold any number
+// of others; copying them into the style of every element it matches would make a document
+// cost its stylesheet's size times its element count.
+// clang-format off
+constexpr std::array<std::string_view, 25> readProperties{
+    "opacity", "fill-opacity", "stroke-opacity", "stroke-width", "fill", "stroke",
+    "stroke-linecap", "stroke-linejoin", "stroke-miterlimit", "filter",  // presentation
+    "x", "y", "width", "height", "x1", "y1", "x2", "y2",                 // geometry
+    "stop-color", "stop-opacity",                                        // gradient stops
+    "font", "font-style", "font-weight", "font-family", "font-size"};    // text
+// clang-format on
+
+void mergeReadProperties(CSS::Declarations& into, const CSS::Declarations& from) {
+  if (from.size() <= readProperties.size()) return merge(into, from);
+  for (const std::string_view name : readProperties) {
+    if (const auto it = from.find(name); it != from.end()) {
+      into.insert_or_assign(it->first, it->second);
+    }
+  }
 }
 
 // ["name": value, ...] for the report lines about dropped rules.
@@ -148,12 +170,12 @@ CSS::Style CSS::resolver(const SVGParser::Attributes& attributes) const {
   Style style;
   for (std::string_view name : text::split(attributes["class"].value_or(""), ' ', 100)) {
     if (const auto it = classToStyles.find(name); it != classToStyles.end()) {
-      merge(style.properties, it->second.properties);
+      mergeReadProperties(style.properties, it->second.properties);
     }
   }
   if (const auto id = attributes["id"]) {
     if (const auto it = idToStyles.find(*id); it != idToStyles.end()) {
-      merge(style.properties, it->second.properties);
+      mergeReadProperties(style.properties, it->second.properties);
     }
   }
   merge(style.properties, parseDeclarations(attributes["style"]));

@@ -32,7 +32,7 @@ bool writeAll(int fd, std::string_view bytes) {
 }  // namespace
 
 std::optional<std::string> writeFileAtomically(const std::filesystem::path& path,
-                                               std::string_view bytes) {
+                                               std::string_view bytes, FlushToDisk flush) {
   // mkstemp keeps the temporary name unique among concurrent writers of the same target.
   std::string pattern = path.string() + ".tmp-XXXXXX";
   std::vector<char> name(pattern.begin(), pattern.end());
@@ -48,7 +48,9 @@ std::optional<std::string> writeFileAtomically(const std::filesystem::path& path
     return reason(what, error);
   };
   if (!writeAll(fd, bytes)) return fail("cannot write " + temporary);
-  if (::fsync(fd) != 0) return fail("cannot flush " + temporary);
+  if (flush == FlushToDisk::beforeRename && ::fsync(fd) != 0) {
+    return fail("cannot flush " + temporary);
+  }
   // mkstemp creates the file readable by its owner only: keep the mode of the file being
   // replaced, or give a new file the usual one.
   struct stat existing {};

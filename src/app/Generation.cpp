@@ -1,38 +1,125 @@
 #include "SVGFigurerApp/Generation.h"
 
+#include <algorithm>
+#include <string>
+
+#if defined(__GLIBC__)
+#include <malloc.h>
+#endif
+
 #include "SVGConverter/SVGSwiftUIExporter.h"
 #include "SVGParser/SVGParser.h"
 #include "UnicodeText.h"
 
 namespace SVGFigurerApp {
 
-GeneratedSwift generateSwift(std::string_view svg, const SVGFigurerConfiguration& config,
-                             CoreS::Logger& log, const SVGParser::Report& report) {
-  log.log("rebuilding SVG ...", unicodeScalarCount(svg));
-  const auto tree = SVGParser::parse(svg, report);
-  if (!tree) {
-    log.warn("Parsing of SVG failed.");
-    if (isBlank(svg)) return {std::string(emptySVGText), false};
-    return {std::string(unparsableSVGText), true};
-  }
-  std::string body = SVGSwiftUIExporter::generate(*tree, config.exporterConfig(), report);
-  if (!config.prefixSVG || body.empty() || svg.empty()) return {std::move(body), false};
-  return {svgHeaderComment(svg) + body, false};
-}
+namespace {
 
-std::string svgHeaderComment(std::string_view svg) {
-  std::string header = "/**\n * Generated from SVG:\n * \n";
+// Hands the header comment to `put` in pieces: every non-empty line of the SVG, as it stands.
+template <class Put>
+void putHeaderComment(std::string_view svg, Put&& put) {
+  put("/**\n * Generated from SVG:\n * \n");
   std::size_t start = 0;
   while (start <= svg.size()) {
     const std::size_t end = std::min(svg.find('\n', start), svg.size());
     if (end > start) {
-      header += " *     ";
-      header += svg.substr(start, end - start);
-      header += '\n';
+      put(" *     ");
+      put(svg.substr(start, end - start));
+      put("\n");
     }
     start = end + 1;
   }
-  header += " * \n */\n";
+  put(" * \n */\n");
+}
+
+// The one road of both forms. `put` receives text; `generate` the tree, after the header
+// comment. Returns whether the text did not parse.
+template <class Put, class Generate>
+bool rebuild(std::string_view svg, const SVGFigurerConfiguration& config, CoreS::Logger& log,
+             const SVGParser::Report& report, Put&& put, Generate&& generate) {
+  log.log("rebuilding SVG ...", unicodeScalarCount(svg));
+  auto tree = SVGParser::parse(svg, report);
+  if (!tree) {
+    log.warn("Parsing of SVG failed.");
+    if (isBlank(svg)) {
+      put(emptySVGText);
+      return false;
+    }
+    put(unparsableSVGText);
+    return true;
+  }
+  // The exporter always writes the root view, so the header never stands alone.
+  if (config.prefixSVG && !svg.empty()) putHeaderComment(svg, put);
+  generate(*tree);
+  return false;
+}
+
+constexpr std::size_t largeTextSize = 8 * 1024 * 1024;
+
+void releaseFreePages() {
+#if defined(__GLIBC__)
+  malloc_trim(0);
+#endif
+}
+
+// `owner`, when given, holds the text `svg` views; it is released once the tree and the header
+// are made, before the conversion reaches its largest state.
+bool streamSwift(std::string_view svg, std::string* owner, const SVGFigurerConfiguration& config,
+                 CoreS::Logger& log, const SVGParser::Report& report,
+                 const SVGSwiftUIExporter::TextSink& sink) {
+  // The header comes in many small pieces; they are gathered into sink-sized ones.
+  std::string pending;
+  const auto put = [&](std::string_view text) {
+    pending += text;
+    if (pending.size() >= 64 * 1024) {
+      sink(pending);
+      pending.clear();
+    }
+  };
+  const auto flush = [&] {
+    if (!pending.empty()) sink(pending);
+    pending = std::string();
+  };
+  const bool failed = rebuild(svg, config, log, report, put, [&](const SVG& tree) {
+    flush();
+    const std::size_t size = svg.size();
+    if (owner != nullptr) *owner = std::string();
+    // Reading a large text leaves freed pages all through the heap, and the conversion about
+    // to run builds its largest state in chunks of other sizes: hand the pages back first.
+    if (size > largeTextSize) releaseFreePages();
+    SVGSwiftUIExporter::generate(tree, config.exporterConfig(), report, sink);
+  });
+  flush();
+  return failed;
+}
+
+}  // namespace
+
+GeneratedSwift generateSwift(std::string_view svg, const SVGFigurerConfiguration& config,
+                             CoreS::Logger& log, const SVGParser::Report& report) {
+  GeneratedSwift result;
+  result.failed = rebuild(
+      svg, config, log, report, [&](std::string_view text) { result.text += text; },
+      [&](const SVG& tree) {
+        SVGSwiftUIExporter::generate(tree, config.exporterConfig(), report, result.text);
+      });
+  return result;
+}
+
+bool generateSwift(std::string_view svg, const SVGFigurerConfiguration& config, CoreS::Logger& log,
+                   const SVGParser::Report& report, const SVGSwiftUIExporter::TextSink& sink) {
+  return streamSwift(svg, nullptr, config, log, report, sink);
+}
+
+bool generateSwift(std::string&& svg, const SVGFigurerConfiguration& config, CoreS::Logger& log,
+                   const SVGParser::Report& report, const SVGSwiftUIExporter::TextSink& sink) {
+  std::string text = std::move(svg);
+  return streamSwift(text, &text, config, log, report, sink);
+}
+
+std::string svgHeaderComment(std::string_view svg) {
+  std::string header;
+  putHeaderComment(svg, [&](std::string_view text) { header += text; });
   return header;
 }
 

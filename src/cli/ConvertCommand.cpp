@@ -2,21 +2,21 @@
 // `svgfigurer convert -o DIR FILE...`: writes one <stem>.swift per input into DIR.
 #include <unistd.h>
 
-#include <cctype>
+#include <algorithm>
 #include <filesystem>
 #include <iostream>
 #include <map>
 #include <optional>
-#include <set>
 #include <string>
+#include <string_view>
+#include <thread>
 #include <vector>
 
 #include "AppSupport.h"
+#include "BatchConvert.h"
 #include "Commands.h"
 #include "Highlighting.h"
 #include "Input.h"
-#include "SVGConverter/IDPool.h"
-#include "SVGFigurerApp/AtomicFile.h"
 #include "SVGFigurerApp/Generation.h"
 #include "SVGFigurerApp/SVGFigurerConfiguration.h"
 
@@ -29,6 +29,10 @@ using SVGFigurerApp::SVGFigurerConfiguration;
 struct ConvertOptions {
   std::vector<std::string> files;
   std::string outputFolder;
+  std::string filesFrom;
+  unsigned jobs = 0;  // 0: one per core
+  double timeoutSeconds = 10;
+  std::string timingsFile;
   bool fresh = false;
   std::string configFile;
   std::optional<std::string> rootViewName;
@@ -96,44 +100,55 @@ std::optional<SVGFigurerConfiguration> settingsFor(const ConvertOptions& options
   return config;
 }
 
-// "my-icon_2" gives "MyIcon2", "24px" gives "Z24px": words of ASCII letters and digits, each
-// begun with a capital, then the converter's own rule for names that do not begin with a
-// letter. Other characters only separate words.
-std::string rootViewNameForStem(const std::string& stem) {
-  std::string name;
-  bool wordStart = true;
-  for (const char c : stem) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (byte >= 0x80 || !std::isalnum(byte)) {
-      wordStart = true;
-      continue;
-    }
-    name += wordStart ? static_cast<char>(std::toupper(byte)) : c;
-    wordStart = false;
-  }
-  return SwiftUIModel::identifierFromName(name, SwiftUIModel::NameCase::type);
-}
-
 void convertOne(const ConvertOptions& options, const SVGFigurerConfiguration& config) {
   const std::string path = options.files.empty() ? "-" : options.files.front();
   auto input = readInput(path);
   if (!input) throw CLI::RuntimeError(2);
-  const auto generated =
-      SVGFigurerApp::generateSwift(input->text, config, stderrLogger(), stderrReport());
   const bool colour =
       options.color == "always" || (options.color == "auto" && ::isatty(STDOUT_FILENO) == 1);
-  std::optional<std::string> coloured;
-  if (colour && !generated.text.empty()) {
-    coloured = highlightForTerminal(generated.text, "swift", options.theme);
+  bool failed = false;
+  if (colour) {
+    // The highlighter needs the whole text at once.
+    const auto generated =
+        SVGFigurerApp::generateSwift(input->text, config, stderrLogger(), stderrReport());
+    failed = generated.failed;
+    std::optional<std::string> coloured;
+    if (!generated.text.empty()) {
+      coloured = highlightForTerminal(generated.text, "swift", options.theme);
+    }
+    std::cout << coloured.value_or(generated.text);
+  } else {
+    // Written as it is generated, so that a large result is never held whole.
+    failed = SVGFigurerApp::generateSwift(
+        std::move(input->text), config, stderrLogger(), stderrReport(), [](std::string_view piece) {
+          std::cout.write(piece.data(), std::streamsize(piece.size()));
+        });
   }
-  std::cout << coloured.value_or(generated.text) << std::flush;
-  if (generated.failed) {
+  std::cout << std::flush;
+  if (failed) {
     printError("could not parse SVG: " + input->name);
     throw CLI::RuntimeError(1);
   }
 }
 
-void convertBatch(const ConvertOptions& options, const SVGFigurerConfiguration& config) {
+// Appends the paths of a list, one a line; empty lines are passed over.
+bool readFileList(const std::string& list, std::vector<std::string>& files) {
+  auto input = readInput(list);
+  if (!input) return false;
+  std::size_t start = 0;
+  const std::string& text = input->text;
+  while (start < text.size()) {
+    std::size_t end = text.find('\n', start);
+    if (end == std::string::npos) end = text.size();
+    std::string line = text.substr(start, end - start);
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    if (!line.empty()) files.push_back(std::move(line));
+    start = end + 1;
+  }
+  return true;
+}
+
+void convertBatch(ConvertOptions& options, const SVGFigurerConfiguration& config) {
   namespace fs = std::filesystem;
   const fs::path folder(options.outputFolder);
   std::error_code error;
@@ -142,48 +157,10 @@ void convertBatch(const ConvertOptions& options, const SVGFigurerConfiguration& 
     printError("cannot use output folder " + options.outputFolder);
     throw CLI::RuntimeError(2);
   }
-  const bool showProgress = ::isatty(STDERR_FILENO) == 1;
-  const std::size_t total = options.files.size();
-  std::vector<std::string> failures;
-  std::set<std::string> written;
-  for (std::size_t i = 0; i < total; ++i) {
-    const std::string& path = options.files[i];
-    const auto fail = [&](const std::string& reason) {
-      printError(path + ": " + reason);
-      failures.push_back(path);
-    };
-    if (path == "-") {
-      fail("standard input has no name to write a file for");
-      continue;
-    }
-    const std::string stem = fs::path(path).stem().string();
-    const fs::path output = folder / (stem + ".swift");
-    if (showProgress) std::cerr << "[" << i + 1 << "/" << total << "] " << path << '\n';
-    if (!written.insert(output.string()).second) {
-      fail("another input already writes " + output.string());
-      continue;
-    }
-    auto input = readInput(path);
-    if (!input) {
-      failures.push_back(path);
-      continue;
-    }
-    SVGFigurerConfiguration fileConfig = config;
-    if (fileConfig.rootViewName.empty()) fileConfig.rootViewName = rootViewNameForStem(stem);
-    const auto generated =
-        SVGFigurerApp::generateSwift(input->text, fileConfig, stderrLogger(), stderrReport());
-    if (generated.failed) {
-      fail("could not parse SVG");
-      continue;
-    }
-    if (auto writeError = SVGFigurerApp::writeFileAtomically(output, generated.text)) {
-      fail(*writeError);
-    }
-  }
-  if (failures.empty()) return;
-  printError(std::to_string(failures.size()) + " of " + std::to_string(total) + " inputs failed:");
-  for (const auto& path : failures) std::cerr << "  " << path << '\n';
-  throw CLI::RuntimeError(1);
+  BatchRequest request{std::move(options.files), folder, options.jobs, options.timeoutSeconds,
+                       options.timingsFile};
+  if (request.jobs == 0) request.jobs = std::max(1u, std::thread::hardware_concurrency());
+  if (const int status = runBatch(request, config); status != 0) throw CLI::RuntimeError(status);
 }
 
 }  // namespace
@@ -194,6 +171,18 @@ void addConvertCommand(CLI::App& app) {
   command->add_option("files", options->files, "SVG files, or - for standard input");
   command->add_option("-o,--output", options->outputFolder,
                       "Write one <stem>.swift per input into this folder");
+  command->add_option("--files-from", options->filesFrom,
+                      "Also convert the files listed in this file, one a line (- for standard "
+                      "input); needs -o");
+  command->add_option("-j,--jobs", options->jobs,
+                      "Conversions at the same time with -o (default: one per core)");
+  command
+      ->add_option("--timeout", options->timeoutSeconds,
+                   "With -o, end with status 124 when one file takes longer (0: no limit)")
+      ->check(CLI::NonNegativeNumber)
+      ->capture_default_str();
+  command->add_option("--timings", options->timingsFile,
+                      "With -o, write a line per input: path, bytes, seconds, result");
   auto* fresh = command->add_flag("--fresh", options->fresh,
                                   "Start from the first-launch settings, not the saved default");
   command->add_option("--config", options->configFile, "Start from the settings in a JSON file")
@@ -224,6 +213,13 @@ void addConvertCommand(CLI::App& app) {
         "--no-" + name, [options, name] { options->switches[name] = false; }, "Turn off " + name);
   }
   command->callback([options] {
+    if (!options->filesFrom.empty()) {
+      if (options->outputFolder.empty()) {
+        printError("--files-from needs an output folder (-o DIR)");
+        throw CLI::RuntimeError(2);
+      }
+      if (!readFileList(options->filesFrom, options->files)) throw CLI::RuntimeError(2);
+    }
     if (options->outputFolder.empty() && options->files.size() > 1) {
       printError("several inputs need an output folder (-o DIR)");
       throw CLI::RuntimeError(2);

@@ -3,8 +3,11 @@
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <cstdio>
+#include <map>
 #include <nlohmann/json.hpp>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -36,13 +39,14 @@ class CLITest : public testing::Test {
     return path;
   }
 
-  Outcome run(const std::vector<std::string>& arguments, const std::string& environment = "") {
+  Outcome run(const std::vector<std::string>& arguments, const std::string& environment = "",
+              const std::string& standardInput = "/dev/null") {
     std::string command = "cd " + quoted(folder.path().string()) +
                           " && XDG_CONFIG_HOME=" + quoted(config().string()) + " " + environment +
                           " " + quoted(SVGFIGURER_CLI);
     for (const auto& argument : arguments) command += " " + quoted(argument);
     const auto errPath = folder.path() / "stderr.txt";
-    command += " 2>" + quoted(errPath.string());
+    command += " <" + quoted(standardInput) + " 2>" + quoted(errPath.string());
     Outcome result;
     std::FILE* pipe = ::popen(command.c_str(), "r");
     if (pipe == nullptr) return result;
@@ -178,6 +182,148 @@ TEST_F(CLITest, BatchWritesOneFilePerInputAndNamesEachFailure) {
 
   const auto clean = run({"convert", "-o", out.string(), good.string()});
   EXPECT_EQ(clean.exitCode, 0) << clean.err;
+}
+
+// Every file of a folder, by name, with its contents.
+std::map<std::string, std::string> folderContents(const std::filesystem::path& folder) {
+  std::map<std::string, std::string> files;
+  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+    files[entry.path().filename().string()] = AppTest::readFile(entry.path());
+  }
+  return files;
+}
+
+std::vector<std::string> linesOf(const std::string& text) {
+  std::vector<std::string> lines;
+  std::size_t start = 0;
+  while (start < text.size()) {
+    const std::size_t end = std::min(text.find('\n', start), text.size());
+    lines.push_back(text.substr(start, end - start));
+    start = end + 1;
+  }
+  return lines;
+}
+
+// Inputs of every kind a batch meets: equal stems in different folders (and a stem that looks
+// like a numbered one), text that does not parse, a missing file, a document with many report
+// lines, and enough work for several threads.
+class BatchTest : public CLITest {
+ protected:
+  std::vector<std::string> inputs;
+  std::string list;
+
+  void SetUp() override {
+    std::string many = R"(<svg xmlns="http://www.w3.org/2000/svg">)";
+    for (int i = 0; i < 200; ++i) many += "<use/><circle r=\"" + std::to_string(i) + "\"/>";
+    many += "</svg>";
+    const std::vector<std::pair<std::string, std::string>> files = {
+        {"a/icon.svg", circleSVG}, {"b/icon.svg", many}, {"c/icon-2.svg", circleSVG},
+        {"broken.svg", "<svg"},    {"d/many.svg", many}, {"e/dot.svg", circleSVG},
+        {"f/icon.svg", circleSVG}};
+    for (const auto& [name, contents] : files) {
+      std::filesystem::create_directories((folder.path() / name).parent_path());
+      inputs.push_back(file(name, contents).string());
+    }
+    inputs.insert(inputs.begin() + 4, (folder.path() / "missing.svg").string());
+    for (const auto& input : inputs) list += input + "\n";
+  }
+
+  Outcome batch(const std::string& out, const std::string& jobs,
+                std::vector<std::string> extra = {}) {
+    const auto listFile = file("list-" + out + ".txt", list);
+    std::vector<std::string> arguments = {
+        "convert",      "--fresh", "-o", (folder.path() / out).string(),
+        "--files-from", "-",       "-j", jobs};
+    arguments.insert(arguments.end(), extra.begin(), extra.end());
+    return run(arguments, "", listFile.string());
+  }
+};
+
+TEST_F(BatchTest, ThreadsChangeNeitherTheFilesNorTheSummary) {
+  const auto one = batch("one", "1");
+  const auto three = batch("three", "3");
+  EXPECT_EQ(one.exitCode, 1);
+  EXPECT_EQ(three.exitCode, 1);
+  EXPECT_EQ(one.out + three.out, "");
+  const auto files = folderContents(folder.path() / "one");
+  EXPECT_EQ(files, folderContents(folder.path() / "three"));
+
+  std::vector<std::string> names;
+  for (const auto& [name, contents] : files) names.push_back(name);
+  EXPECT_EQ(names, (std::vector<std::string>{"dot.swift", "icon-2-2.swift", "icon-2.swift",
+                                             "icon-3.swift", "icon.swift", "many.swift"}));
+  auto config = SVGFigurerConfiguration::fresh();
+  config.rootViewName = "Icon22";
+  EXPECT_EQ(files.at("icon-2-2.swift"), expectedSwift(circleSVG, config))
+      << "a later input named like a numbered stem gets the next free name, and its view too";
+
+  // The summary is everything after the last report line: the same for any number of threads.
+  const auto summaryOf = [](const std::string& err) {
+    return err.substr(err.rfind("svgfigurer: 2 of"));
+  };
+  EXPECT_EQ(summaryOf(one.err), summaryOf(three.err));
+  EXPECT_EQ(summaryOf(one.err),
+            "svgfigurer: 2 of 8 inputs failed:\n  " + inputs[3] + "\n  " + inputs[4] + "\n");
+  for (const auto* err : {&one.err, &three.err}) {
+    const auto lines = linesOf(*err);
+    const auto has = [&](const std::string& line) {
+      return std::find(lines.begin(), lines.end(), line) != lines.end();
+    };
+    EXPECT_TRUE(has("svgfigurer: " + inputs[3] + ": could not parse SVG")) << *err;
+    EXPECT_TRUE(has("svgfigurer: " + inputs[4] + ": cannot read: No such file or directory"));
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), "OTHER: use [:]"), 400) << "whole lines only";
+  }
+}
+
+TEST_F(BatchTest, TimingsHaveALinePerInputInInputOrder) {
+  const auto timings = folder.path() / "timings.tsv";
+  const auto result = batch("out", "2", {"--timings", timings.string()});
+  EXPECT_EQ(result.exitCode, 1);
+  const auto lines = linesOf(AppTest::readFile(timings));
+  ASSERT_GE(lines.size(), inputs.size());
+  for (std::size_t i = 0; i < inputs.size(); ++i) {
+    std::vector<std::string> fields;
+    std::stringstream row(lines[i]);
+    for (std::string field; std::getline(row, field, '\t');) fields.push_back(field);
+    ASSERT_EQ(fields.size(), 4u) << lines[i];
+    EXPECT_EQ(fields[0], inputs[i]);
+    const auto bytes = i == 4 ? 0 : std::filesystem::file_size(inputs[i]);
+    EXPECT_EQ(fields[1], std::to_string(bytes));
+    EXPECT_GE(std::stod(fields[2]), 0.0);
+    const char* status = i == 3   ? "failed: could not parse SVG"
+                         : i == 4 ? "failed: cannot read: No such file or directory"
+                                  : "ok";
+    EXPECT_EQ(fields[3], status);
+  }
+  std::vector<std::string> keys;
+  for (std::size_t i = inputs.size(); i < lines.size(); ++i) {
+    keys.push_back(lines[i].substr(0, lines[i].find('\t')));
+  }
+  EXPECT_EQ(keys,
+            (std::vector<std::string>{"#jobs", "#wall-seconds", "#cpu-seconds", "#peak-rss-kb"}));
+}
+
+TEST_F(CLITest, BatchEndsWithStatus124WhenAFileTakesTooLong) {
+  std::string big = R"(<svg xmlns="http://www.w3.org/2000/svg">)";
+  for (int i = 0; i < 20000; ++i) big += R"(<path d="M1 2 C3 4 5 6 7 8 S9 10 11 12z"/>)";
+  big += "</svg>";
+  const auto path = file("big.svg", big).string();
+  const auto timings = folder.path() / "t.tsv";
+  const auto result = run({"convert", "-o", (folder.path() / "out").string(), "--timeout", "0.001",
+                           "--timings", timings.string(), path});
+  EXPECT_EQ(result.exitCode, 124);
+  EXPECT_NE(result.err.find("svgfigurer: " + path + ": took longer than 0.001 s\n"),
+            std::string::npos)
+      << result.err;
+  EXPECT_EQ(AppTest::readFile(timings).rfind(path + "\t" + std::to_string(big.size()) + "\t", 0),
+            0u);
+  EXPECT_FALSE(std::filesystem::exists(folder.path() / "out" / "big.swift"));
+}
+
+TEST_F(CLITest, FilesFromNeedsAnOutputFolder) {
+  const auto list = file("list.txt", file("c.svg", circleSVG).string() + "\n");
+  EXPECT_EQ(run({"convert", "--files-from", list.string()}).exitCode, 2);
+  EXPECT_EQ(run({"convert", "-o", "out", "--files-from", "absent.txt"}).exitCode, 2);
 }
 
 TEST_F(CLITest, InspectShowsTheOpenedDocument) {

@@ -19,14 +19,18 @@ class CodeGenerationStream {
  public:
   using Config = SVGSwiftUIExporter::Config;
 
-  explicit CodeGenerationStream(Config config);
+  explicit CodeGenerationStream(Config config, std::string textBefore = {});
+  // Hands the text to `sink` in pieces of about `flushSize` bytes; `flush` passes on the rest.
+  CodeGenerationStream(Config config, SVGSwiftUIExporter::TextSink sink);
   ~CodeGenerationStream();
   CodeGenerationStream(const CodeGenerationStream&) = delete;
   CodeGenerationStream& operator=(const CodeGenerationStream&) = delete;
 
   const Config& config() const { return config_; }
+  // The text not yet handed to a sink: all of it for a stream without one.
   const std::string& text() const { return swift_; }
   std::string takeText() { return std::move(swift_); }
+  void flush();
   int depth() const { return indent_; }
 
   // Set when a colour was written in the hexadecimal form that needs the colour extension.
@@ -41,7 +45,10 @@ class CodeGenerationStream {
   // Each line of `text` at the current prefix.
   void appendIndentedText(std::string_view text);
   // Text exactly as given: no prefix, no line end of its own.
-  void appendVerbatim(std::string_view text) { swift_ += text; }
+  void appendVerbatim(std::string_view text) {
+    swift_ += text;
+    wrote();
+  }
 
   // The one emitter of a brace pair. A header that holds "{" anywhere keeps its own brace.
   template <class Body>
@@ -50,6 +57,7 @@ class CodeGenerationStream {
     indented(true, std::forward<Body>(body));
     swift_ += prefix_;
     swift_ += "}\n";
+    wrote();
   }
 
   template <class Body>
@@ -64,6 +72,10 @@ class CodeGenerationStream {
   std::string numberString(double value) const;
   // The same text appended to `out`, for lines built piece by piece.
   void appendNumber(std::string& out, double value) const;
+  // The same text written at `cursor`, which has room for `maximumQuickLength` bytes, where
+  // the formatter needs no digit generation for it; false, with nothing written, where only
+  // `appendNumber` serves.
+  bool writeNumberQuickly(char*& cursor, double value) const;
 
  private:
   class Indent {
@@ -82,14 +94,26 @@ class CodeGenerationStream {
     bool enabled_;
   };
 
+  static constexpr std::size_t flushSize = 64 * 1024;
+
   void setDepth(int depth);
   void openBlock(std::string_view header, std::optional<std::string_view> comment);
+  bool endsLine() const;
+  void wrote() {
+    if (sink_ && swift_.size() >= flushSize) flush();
+  }
 
   Config config_;
   std::unique_ptr<NumberFormatter> numberFormatter_;
+  SVGSwiftUIExporter::TextSink sink_;
   std::string swift_;
+  // Whether the text handed to the sink so far ends a line: nothing handed over counts as not.
+  bool flushedEndsLine_ = false;
   int indent_ = 0;
-  std::string prefix_;
+  // The indentation of every depth reached so far, one after the other; the prefix of the
+  // current depth is its start.
+  std::string indentRun_;
+  std::string_view prefix_;
 };
 
 }  // namespace SVGConverter

@@ -17,4 +17,12 @@ inline constexpr int largestFastFractionDigits = 13;
 // infinities and limits outside 0...largestFastFractionDigits.
 bool appendFixedDecimal(std::string& out, double value, int maximumFractionDigits);
 
+// The longest text `writeFixedDecimalQuickly` writes.
+inline constexpr int maximumQuickLength = 40;
+
+// The same text written at `out` for the values that need no digit generation (nearly all
+// that a drawing holds); nullptr, with nothing written, for the others and for NaN and the
+// infinities. Returns the end of the text.
+char* writeFixedDecimalQuickly(char* out, double value, int maximumFractionDigits);
+
 }  // namespace SVGConverter

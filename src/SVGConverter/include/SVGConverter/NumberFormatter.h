@@ -16,7 +16,7 @@ class NumberFormatter {
  public:
   NumberFormatter(int maximumFractionDigits, bool useThousandsSeparator);
 
-  // Nothing when ICU could not build the formatter or could not format the value; the
+  // Nothing when ICU is needed but could not build the formatter or format the value; the
   // caller falls back to plain double text then.
   std::optional<std::string> format(double value) const;
   // The same text appended to `out`; false, with `out` untouched, where `format` gives nothing.
@@ -28,8 +28,14 @@ class NumberFormatter {
   struct Close {
     void operator()(UNumberFormat* format) const { unum_close(format); }
   };
-  std::unique_ptr<UNumberFormat, Close> format_;
+  // Opening an ICU format costs more than a whole small document's conversion, and the faster
+  // road serves nearly every number, so the format is opened on first need.
+  UNumberFormat* icuFormat() const;
+
+  mutable std::unique_ptr<UNumberFormat, Close> format_;
+  mutable bool opened_ = false;
   int maximumFractionDigits_ = 0;
+  bool useThousandsSeparator_ = false;
 };
 
 }  // namespace SVGConverter

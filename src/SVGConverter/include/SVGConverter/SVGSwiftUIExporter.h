@@ -3,8 +3,10 @@
 // becomes comment lines in the text.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "SVGParser/Report.h"
 #include "SVGParser/SVG.h"
@@ -38,7 +40,17 @@ class SVGSwiftUIExporter {
     bool operator==(const Config&) const = default;
   };
 
+  // Receives the generated text in order, a piece at a time.
+  using TextSink = std::function<void(std::string_view)>;
+
   // The complete source file for `svg`. The converter's plain report lines go to `report`.
   static std::string generate(const SVG& svg, const Config& config,
                               const SVGParser::Report& report = {});
+  // The same text appended to `text`, which spares a copy when something comes before it.
+  static void generate(const SVG& svg, const Config& config, const SVGParser::Report& report,
+                       std::string& text);
+  // The same text handed to `sink` in pieces as it is written, so that a large result need
+  // never be held whole.
+  static void generate(const SVG& svg, const Config& config, const SVGParser::Report& report,
+                       const TextSink& sink);
 };

@@ -15,6 +15,10 @@ namespace SVGConverter {
 std::string pointLiteral(const CodeGenerationStream& s, CGPoint p, bool preferInit);
 void appendPointLiteral(std::string& out, const CodeGenerationStream& s, CGPoint p,
                         bool preferInit);
+// The same literal written at `cursor` (room for `maximumPointLiteralLength` bytes) when both
+// numbers take the stream's quick road; false otherwise, `cursor` left where it was.
+inline constexpr std::size_t maximumPointLiteralLength = 128;
+bool writePointLiteral(char*& cursor, const CodeGenerationStream& s, CGPoint p, bool preferInit);
 std::string sizeLiteral(const CodeGenerationStream& s, CGSize size, bool preferInit);
 // X and Y as plain double text, width and height through `numberString`:
 // "CGRect(x: 0.0, y: 0.0, width: 24, height: 24)".
@@ -30,6 +34,11 @@ std::string firstStepText(const CodeGenerationStream& s, const SwiftUIModel::Tra
                           bool preferInit);
 // A chained matrix always names its type, so the chained form takes no `preferInit`.
 std::string chainedStepText(const CodeGenerationStream& s, const SwiftUIModel::TransformStep& step);
+// The same two texts appended to `out`.
+void appendFirstStepText(std::string& out, const CodeGenerationStream& s,
+                         const SwiftUIModel::TransformStep& step, bool preferInit);
+void appendChainedStepText(std::string& out, const CodeGenerationStream& s,
+                           const SwiftUIModel::TransformStep& step);
 // The first step in the initialiser form, the others chained; empty for no steps.
 std::vector<std::string> transformStepTexts(const CodeGenerationStream& s,
                                             const std::vector<SwiftUIModel::TransformStep>& steps,

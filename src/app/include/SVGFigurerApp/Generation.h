@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "CoreS/Logger.h"
+#include "SVGConverter/SVGSwiftUIExporter.h"
 #include "SVGFigurerApp/SVGFigurerConfiguration.h"
 #include "SVGFigurerApp/Snapshot.h"
 #include "SVGParser/Report.h"
@@ -27,6 +28,12 @@ struct GeneratedSwift {
 // Text that is only white space gives "// Empty SVG\n" and is not a failure.
 GeneratedSwift generateSwift(std::string_view svg, const SVGFigurerConfiguration& config,
                              CoreS::Logger& log, const SVGParser::Report& report = {});
+// The same text handed to `sink` in pieces as it is written; returns whether it failed.
+bool generateSwift(std::string_view svg, const SVGFigurerConfiguration& config, CoreS::Logger& log,
+                   const SVGParser::Report& report, const SVGSwiftUIExporter::TextSink& sink);
+// The same for text the caller gives up: it is released as soon as it has been read.
+bool generateSwift(std::string&& svg, const SVGFigurerConfiguration& config, CoreS::Logger& log,
+                   const SVGParser::Report& report, const SVGSwiftUIExporter::TextSink& sink);
 
 // The header comment that `generateSwift` puts ahead of the exporter's text: every non-empty
 // line of the SVG, as it stands.
