@@ -3,10 +3,6 @@
 #include <algorithm>
 #include <string>
 
-#if defined(__GLIBC__)
-#include <malloc.h>
-#endif
-
 #include "SVGConverter/SVGSwiftUIExporter.h"
 #include "SVGParser/SVGParser.h"
 #include "UnicodeText.h"
@@ -54,14 +50,6 @@ bool rebuild(std::string_view svg, const SVGFigurerConfiguration& config, CoreS:
   return false;
 }
 
-constexpr std::size_t largeTextSize = 8 * 1024 * 1024;
-
-void releaseFreePages() {
-#if defined(__GLIBC__)
-  malloc_trim(0);
-#endif
-}
-
 // `owner`, when given, holds the text `svg` views; it is released once the tree and the header
 // are made, before the conversion reaches its largest state.
 bool streamSwift(std::string_view svg, std::string* owner, const SVGFigurerConfiguration& config,
@@ -82,11 +70,7 @@ bool streamSwift(std::string_view svg, std::string* owner, const SVGFigurerConfi
   };
   const bool failed = rebuild(svg, config, log, report, put, [&](const SVG& tree) {
     flush();
-    const std::size_t size = svg.size();
     if (owner != nullptr) *owner = std::string();
-    // Reading a large text leaves freed pages all through the heap, and the conversion about
-    // to run builds its largest state in chunks of other sizes: hand the pages back first.
-    if (size > largeTextSize) releaseFreePages();
     SVGSwiftUIExporter::generate(tree, config.exporterConfig(), report, sink);
   });
   flush();
