@@ -70,44 +70,14 @@ Command::ParserError byteError(Command::ParserError::Kind kind, unsigned char by
   return error;
 }
 
-// Most path numbers have few digits: an integer mantissa of at most 2^53 and a power of ten of
-// at most 10^22 are both exact doubles, so one division gives the correctly rounded value that
-// the general conversion would. Anything else (no digit, long mantissas) is left to it.
 constexpr double kPowersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                    1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
                                    1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 constexpr std::uint64_t kLargestExactMantissa = std::uint64_t(1) << 53;
 
-std::optional<double> convertShortDecimal(std::string_view text) {
-  constexpr std::uint64_t kLargestExact = kLargestExactMantissa;
-  std::size_t i = 0;
-  const bool negative = !text.empty() && text[0] == '-';
-  if (negative) ++i;
-  std::uint64_t mantissa = 0;
-  std::size_t digits = 0;
-  std::size_t fractionDigits = 0;
-  bool dot = false;
-  for (; i < text.size(); ++i) {
-    const char c = text[i];
-    if (c == '.' && !dot) {
-      dot = true;
-      continue;
-    }
-    if (c < '0' || c > '9') return std::nullopt;
-    mantissa = mantissa * 10 + std::uint64_t(c - '0');
-    if (mantissa > kLargestExact) return std::nullopt;
-    ++digits;
-    if (dot) ++fractionDigits;
-  }
-  if (digits == 0 || fractionDigits >= std::size(kPowersOfTen)) return std::nullopt;
-  const double magnitude = double(mantissa) / kPowersOfTen[fractionDigits];
-  return negative ? -magnitude : magnitude;
-}
-
 // Decimal text to double as strtod does it in the C locale. Only a leading "-", digits and one
 // "." ever reach here, all ASCII, so the UTF-8 check of the collected bytes cannot fail.
 std::optional<double> convertNumber(std::string_view text) {
-  if (const auto quick = convertShortDecimal(text)) return quick;
   double value = 0;
   const char* const end = text.data() + text.size();
   const auto [stop, ec] = std::from_chars(text.data(), end, value);
@@ -285,8 +255,10 @@ class PathDataParser {
     fractionDigits_ += seenDot_ ? 1 : 0;
   }
 
-  // What `convertShortDecimal` gives for the collected bytes, which are always an optional
-  // "-", digits and at most one ".": nothing where the slower conversion must decide.
+  // The collected bytes are always an optional "-", digits and at most one ".". Most path
+  // numbers have few digits: an integer mantissa of at most 2^53 and a power of ten of at most
+  // 10^22 are both exact doubles, so one division gives the correctly rounded value that
+  // `convertNumber` would. Nothing where it must decide (no digit, long mantissas).
   std::optional<double> gatheredValue() const {
     if (digits_ == 0 || mantissa_ > kLargestExactMantissa ||
         fractionDigits_ >= std::size(kPowersOfTen)) {

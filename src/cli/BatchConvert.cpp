@@ -25,6 +25,7 @@
 
 #include "AppSupport.h"
 #include "CoreS/Logger.h"
+#include "Input.h"
 #include "SVGConverter/IDPool.h"
 #include "SVGFigurerApp/AtomicFile.h"
 #include "SVGFigurerApp/Generation.h"
@@ -55,20 +56,6 @@ class BufferStream final : public CoreS::WritableByteStreamType {
  private:
   std::string& out_;
 };
-
-// The whole file, or the reason it cannot be had.
-std::optional<std::string> readFile(const std::string& path, std::string& text) {
-  std::FILE* file = std::fopen(path.c_str(), "rb");
-  if (file == nullptr) return std::string(std::strerror(errno));
-  char buffer[1 << 16];
-  std::size_t count;
-  while ((count = std::fread(buffer, 1, sizeof buffer, file)) > 0) text.append(buffer, count);
-  const bool failed = std::ferror(file) != 0;
-  const int error = errno;
-  std::fclose(file);
-  if (failed) return std::string(std::strerror(error));
-  return std::nullopt;
-}
 
 std::string secondsText(double seconds) {
   std::ostringstream text;
@@ -233,7 +220,7 @@ class Batch {
                           std::string& messages) const {
     if (path == "-") return "standard input has no name to write a file for";
     std::string text;
-    if (auto error = readFile(path, text)) return "cannot read: " + *error;
+    if (auto error = readFileInto(path, text)) return "cannot read: " + *error;
     bytes = text.size();
     CoreS::Console2 log(std::make_unique<BufferStream>(messages),
                         std::make_unique<BufferStream>(messages), CoreS::defaultLogLevel());

@@ -28,19 +28,21 @@ std::optional<InputText> readInput(const std::string& path) {
     }
     return input;
   }
-  std::FILE* file = std::fopen(path.c_str(), "rb");
-  if (file == nullptr) {
-    std::cerr << "svgfigurer: cannot read " << path << ": " << std::strerror(errno) << '\n';
-    return std::nullopt;
-  }
-  const bool ok = readAll(file, input.text);
-  const int error = errno;
-  std::fclose(file);
-  if (!ok) {
-    std::cerr << "svgfigurer: cannot read " << path << ": " << std::strerror(error) << '\n';
+  if (auto error = readFileInto(path, input.text)) {
+    std::cerr << "svgfigurer: cannot read " << path << ": " << *error << '\n';
     return std::nullopt;
   }
   return input;
+}
+
+std::optional<std::string> readFileInto(const std::string& path, std::string& text) {
+  std::FILE* file = std::fopen(path.c_str(), "rb");
+  if (file == nullptr) return std::string(std::strerror(errno));
+  const bool ok = readAll(file, text);
+  const int error = errno;
+  std::fclose(file);
+  if (!ok) return std::string(std::strerror(error));
+  return std::nullopt;
 }
 
 }  // namespace svgfigurer::cli

@@ -15,4 +15,7 @@ struct InputText {
 // "svgfigurer: cannot read <file>: <reason>" on standard error and gives nothing on failure.
 std::optional<InputText> readInput(const std::string& path);
 
+// Appends the whole of FILE to `text`; gives the reason when it cannot be read.
+std::optional<std::string> readFileInto(const std::string& path, std::string& text);
+
 }  // namespace svgfigurer::cli
