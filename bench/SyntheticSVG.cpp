@@ -57,4 +57,32 @@ const std::string& hugePathSVG() {
   return svg;
 }
 
+// About 100 KB in the shape icon sets take: a grid of 24 by 24 glyphs, each a group holding a
+// few paths of relative curves, with shared classes in a stylesheet.
+const std::string& iconSetSVG() {
+  static const std::string text = [] {
+    std::string svg =
+        "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"960\" height=\"960\" "
+        "viewBox=\"0 0 960 960\">\n<style>.a{fill:#223344}.b{fill:none;stroke:#cc5500;"
+        "stroke-width:1.5}</style>\n";
+    for (int i = 0; svg.size() < 100 * 1024; ++i) {
+      const int x = (i % 40) * 24;
+      const int y = (i / 40) * 24;
+      const double s = 1 + (i % 7) * 0.25;
+      svg += "<g id=\"icon" + std::to_string(i) + "\" transform=\"translate(" + std::to_string(x) +
+             " " + std::to_string(y) + ")\">\n";
+      svg +=
+          "  <path class=\"a\" d=\"M12 2c-3.3 0-6 2.7-6 6v5l-2 3v1h16v-1l-2-3v-5c0-3.3-2.7-6-6"
+          "-6zm-2 17h4c0 1.1-.9 2-2 2s-2-.9-2-2z\"/>\n";
+      svg += "  <path class=\"b\" d=\"M3 " + std::to_string(s) +
+             "a9 9 0 1 0 18 0a9 9 0 1 0-18 "
+             "0zm9 4.5v" +
+             std::to_string(s) + "l3.2 1.8\"/>\n";
+      svg += "  <circle cx=\"18\" cy=\"6\" r=\"" + std::to_string(s) + "\" fill=\"red\"/>\n</g>\n";
+    }
+    return svg + "</svg>\n";
+  }();
+  return text;
+}
+
 }  // namespace bench

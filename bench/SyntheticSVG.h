@@ -14,5 +14,8 @@ std::string pathSVG(std::size_t bytes);
 const std::string& largePathSVG();
 // The same shape at 50 MB, for throughput and memory at scale.
 const std::string& hugePathSVG();
+// About 100 KB in the shape icon sets take: a grid of 24 by 24 glyphs, each a group holding a
+// few paths of relative curves, with shared classes in a stylesheet.
+const std::string& iconSetSVG();
 
 }  // namespace bench

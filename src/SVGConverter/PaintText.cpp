@@ -1,8 +1,10 @@
+#include "SVGConverter/PaintText.h"
+
 #include <array>
 #include <cstdio>
 #include <string_view>
 
-#include "SVGConverter/PaintText.h"
+#include "SVGConverter/CommentText.h"
 
 namespace SVGConverter {
 
@@ -50,7 +52,16 @@ std::optional<std::string> colorText(CodeGenerationStream& s, const CSS::Color& 
   if (const auto* named = std::get_if<CSS::Color::Named>(&color.value)) {
     if (isKnownColorName(named->name)) return (preferInit ? "." : "Color.") + named->name;
     const auto value = CSS::namedColorValue(named->name);
-    if (!value) return "Color." + named->name + " /*unknown*/";
+    if (!value) {
+      // The colour type has no member of that name. The compilable text draws nothing and
+      // keeps the name in the comment.
+      if (s.config().compilableSwift) {
+        return (preferInit ? ".clear /*unknown: " : "Color.clear /*unknown: ") +
+               commentSafeText(named->name) + " */";
+      }
+      s.noteDefect(SVGSwiftUIExporter::unknownColor);
+      return "Color." + named->name + " /*unknown*/";
+    }
     const Components c{static_cast<double>((*value >> 16) & 0xFF) / 255.0,
                        static_cast<double>((*value >> 8) & 0xFF) / 255.0,
                        static_cast<double>(*value & 0xFF) / 255.0};

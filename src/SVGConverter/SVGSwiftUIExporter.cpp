@@ -4,6 +4,9 @@
 #include <cmath>
 #include <limits>
 #include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
 
 #include "CoreS/DoubleText.h"
 #include "Emitters.h"
@@ -115,15 +118,39 @@ std::string SVGSwiftUIExporter::generate(const SVG& svg, const Config& config,
 }
 
 void SVGSwiftUIExporter::generate(const SVG& svg, const Config& config,
-                                  const SVGParser::Report& report, std::string& text) {
+                                  const SVGParser::Report& report, std::string& text,
+                                  Defects* defects) {
   SVGConverter::CodeGenerationStream s(config, std::move(text));
   SVGConverter::writeFile(s, svg, config, report);
   text = s.takeText();
+  if (defects != nullptr) *defects |= s.defects();
 }
 
 void SVGSwiftUIExporter::generate(const SVG& svg, const Config& config,
-                                  const SVGParser::Report& report, const TextSink& sink) {
+                                  const SVGParser::Report& report, const TextSink& sink,
+                                  Defects* defects) {
   SVGConverter::CodeGenerationStream s(config, sink);
   SVGConverter::writeFile(s, svg, config, report);
   s.flush();
+  if (defects != nullptr) *defects |= s.defects();
+}
+
+void SVGSwiftUIExporter::reportDefects(const SVGParser::Report& report, Defects defects) {
+  if (defects == 0) return;
+  static constexpr std::pair<Defect, std::string_view> names[] = {
+      {arcTransform, "arc transform"},
+      {rotationStep, "rotation step"},
+      {unknownColor, "unknown colour name"},
+      {headerComment, "comment mark in the SVG header"},
+  };
+  std::string line = "NOTE: the generated Swift does not compile as written (";
+  bool first = true;
+  for (const auto& [defect, name] : names) {
+    if ((defects & defect) == 0) continue;
+    if (!first) line += ", ";
+    line += name;
+    first = false;
+  }
+  line += "); turn on compilableSwift (--compilable-swift) to correct it";
+  report.print({line});
 }

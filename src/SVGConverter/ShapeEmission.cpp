@@ -163,12 +163,19 @@ void appendArc(CodeGenerationStream& s, const PathCommand::AddRelativeArc& arc, 
   s.appendNumber(line, arc.startAngle);
   line += "), delta: Angle(radians: ";
   s.appendNumber(line, arc.delta);
-  line += "))";
   if (arc.transform.empty()) {
+    line += "))";
     s.appendLine(line);
     return;
   }
-  // The call keeps the doubled parenthesis after the delta, as generated files always had it.
+  // Existing documents hold a doubled parenthesis after the delta, which ends the call before
+  // its transform; only the compilable text closes the angle alone.
+  if (s.config().compilableSwift) {
+    line += ')';
+  } else {
+    line += "))";
+    s.noteDefect(SVGSwiftUIExporter::arcTransform);
+  }
   line += ", transform: ";
   appendFirstStepText(line, s, arc.transform.front(), false);
   if (arc.transform.size() == 1) {

@@ -147,9 +147,15 @@ void appendChainedStepText(std::string& out, const CodeGenerationStream& s, cons
           out += ".translatedBy";
           appendCall(out, s, {{"x: ", v.dx}, {"y: ", v.dy}});
         } else if constexpr (std::is_same_v<T, Step::Rotate>) {
-          // Spelled as the generated files have always had it.
-          out += ".rotatedy";
-          appendCall(out, s, {{"x: ", v.angle}});
+          // Existing documents call ".rotatedy(x:)", which the transform type does not have.
+          if (s.config().compilableSwift) {
+            out += ".rotated";
+            appendCall(out, s, {{"by: ", v.angle}});
+          } else {
+            out += ".rotatedy";
+            appendCall(out, s, {{"x: ", v.angle}});
+            s.noteDefect(SVGSwiftUIExporter::rotationStep);
+          }
         } else if constexpr (std::is_same_v<T, Step::Scale>) {
           out += ".scaledBy";
           appendCall(out, s, {{"x: ", v.x}, {"y: ", v.y}});

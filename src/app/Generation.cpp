@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "SVGConverter/CommentText.h"
 #include "SVGConverter/SVGSwiftUIExporter.h"
 #include "SVGParser/SVGParser.h"
 #include "UnicodeText.h"
@@ -11,16 +12,22 @@ namespace SVGFigurerApp {
 
 namespace {
 
-// Hands the header comment to `put` in pieces: every non-empty line of the SVG, as it stands.
+// Hands the header comment to `put` in pieces: every non-empty line of the SVG, as it stands,
+// or, for compilable text, with its comment marks broken.
 template <class Put>
-void putHeaderComment(std::string_view svg, Put&& put) {
+void putHeaderComment(std::string_view svg, bool compilable, Put&& put) {
   put("/**\n * Generated from SVG:\n * \n");
   std::size_t start = 0;
   while (start <= svg.size()) {
     const std::size_t end = std::min(svg.find('\n', start), svg.size());
     if (end > start) {
       put(" *     ");
-      put(svg.substr(start, end - start));
+      const auto line = svg.substr(start, end - start);
+      if (compilable) {
+        put(SVGConverter::commentSafeText(line));
+      } else {
+        put(line);
+      }
       put("\n");
     }
     start = end + 1;
@@ -29,7 +36,8 @@ void putHeaderComment(std::string_view svg, Put&& put) {
 }
 
 // The one road of both forms. `put` receives text; `generate` the tree, after the header
-// comment. Returns whether the text did not parse.
+// comment, and adds the defects it wrote. Reports the defects of the whole text as one line.
+// Returns whether the text did not parse.
 template <class Put, class Generate>
 bool rebuild(std::string_view svg, const SVGFigurerConfiguration& config, CoreS::Logger& log,
              const SVGParser::Report& report, Put&& put, Generate&& generate) {
@@ -45,8 +53,15 @@ bool rebuild(std::string_view svg, const SVGFigurerConfiguration& config, CoreS:
     return true;
   }
   // The exporter always writes the root view, so the header never stands alone.
-  if (config.prefixSVG && !svg.empty()) putHeaderComment(svg, put);
-  generate(*tree);
+  SVGSwiftUIExporter::Defects defects = 0;
+  if (config.prefixSVG && !svg.empty()) {
+    putHeaderComment(svg, config.compilableSwift, put);
+    if (!config.compilableSwift && SVGConverter::breaksBlockComment(svg)) {
+      defects |= SVGSwiftUIExporter::headerComment;
+    }
+  }
+  generate(*tree, defects);
+  SVGSwiftUIExporter::reportDefects(report, defects);
   return false;
 }
 
@@ -68,11 +83,12 @@ bool streamSwift(std::string_view svg, std::string* owner, const SVGFigurerConfi
     if (!pending.empty()) sink(pending);
     pending = std::string();
   };
-  const bool failed = rebuild(svg, config, log, report, put, [&](const SVG& tree) {
-    flush();
-    if (owner != nullptr) *owner = std::string();
-    SVGSwiftUIExporter::generate(tree, config.exporterConfig(), report, sink);
-  });
+  const bool failed = rebuild(
+      svg, config, log, report, put, [&](const SVG& tree, SVGSwiftUIExporter::Defects& defects) {
+        flush();
+        if (owner != nullptr) *owner = std::string();
+        SVGSwiftUIExporter::generate(tree, config.exporterConfig(), report, sink, &defects);
+      });
   flush();
   return failed;
 }
@@ -84,8 +100,8 @@ GeneratedSwift generateSwift(std::string_view svg, const SVGFigurerConfiguration
   GeneratedSwift result;
   result.failed = rebuild(
       svg, config, log, report, [&](std::string_view text) { result.text += text; },
-      [&](const SVG& tree) {
-        SVGSwiftUIExporter::generate(tree, config.exporterConfig(), report, result.text);
+      [&](const SVG& tree, SVGSwiftUIExporter::Defects& defects) {
+        SVGSwiftUIExporter::generate(tree, config.exporterConfig(), report, result.text, &defects);
       });
   return result;
 }
@@ -101,9 +117,9 @@ bool generateSwift(std::string&& svg, const SVGFigurerConfiguration& config, Cor
   return streamSwift(text, &text, config, log, report, sink);
 }
 
-std::string svgHeaderComment(std::string_view svg) {
+std::string svgHeaderComment(std::string_view svg, bool compilable) {
   std::string header;
-  putHeaderComment(svg, [&](std::string_view text) { header += text; });
+  putHeaderComment(svg, compilable, [&](std::string_view text) { header += text; });
   return header;
 }
 

@@ -14,10 +14,10 @@ constexpr std::array<InitType, 2> initTypes{InitType::autoInit, InitType::type};
 constexpr std::array<PositioningStyle, 2> positioningStyles{PositioningStyle::offset,
                                                             PositioningStyle::padding};
 
-constexpr std::array<std::string_view, 13> keys{
-    "rootViewName",    "indentUsing",           "indent",     "indentEmptyLines",      "prefixSVG",
-    "infoComments",    "previewProvider",       "imports",    "newlineAfterClosePath", "initType",
-    "positioningType", "maximumFractionDigits", "useHexColor"};
+constexpr std::array<std::string_view, 14> keys{
+    "rootViewName",    "indentUsing",           "indent",      "indentEmptyLines",      "prefixSVG",
+    "infoComments",    "previewProvider",       "imports",     "newlineAfterClosePath", "initType",
+    "positioningType", "maximumFractionDigits", "useHexColor", "compilableSwift"};
 
 template <class E, std::size_t N>
 std::optional<E> caseFromText(const std::array<E, N>& cases, std::string_view text) {
@@ -181,6 +181,7 @@ SVGSwiftUIExporter::Config SVGFigurerConfiguration::exporterConfig() const {
   config.preferInitOverType = initType == InitType::autoInit;
   config.positionUsingPadding = positioningType == PositioningStyle::padding;
   config.maximumFractionDigits = maximumFractionDigits;
+  config.compilableSwift = compilableSwift;
   return config;
 }
 
@@ -199,6 +200,7 @@ nlohmann::json toJSON(const SVGFigurerConfiguration& config) {
       {"positioningType", textValue(config.positioningType)},
       {"maximumFractionDigits", config.maximumFractionDigits},
       {"useHexColor", config.useHexColor},
+      {"compilableSwift", config.compilableSwift},
   };
 }
 
@@ -227,6 +229,7 @@ Decoded<SVGFigurerConfiguration> decodeConfiguration(const nlohmann::json& json,
   }
   c.maximumFractionDigits = readWrapped<DefaultInt2>(json, "maximumFractionDigits", report);
   c.useHexColor = readWrapped<False>(json, "useHexColor", report);
+  c.compilableSwift = readWrapped<False>(json, "compilableSwift", report);
   return Result::success(std::move(c));
 }
 
@@ -293,6 +296,7 @@ std::optional<std::string> setConfigurationValue(SVGFigurerConfiguration& config
   if (key == "imports") return setBool(config.imports);
   if (key == "newlineAfterClosePath") return setBool(config.newlineAfterClosePath);
   if (key == "useHexColor") return setBool(config.useHexColor);
+  if (key == "compilableSwift") return setBool(config.compilableSwift);
   return "unknown key \"" + std::string(key) + "\"";
 }
 

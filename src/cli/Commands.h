@@ -14,5 +14,6 @@ void addInspectCommand(CLI::App& app);
 void addNewCommand(CLI::App& app);
 void addConfigCommand(CLI::App& app);
 void addSamplesCommand(CLI::App& app);
+void addServiceCommand(CLI::App& app);
 
 }  // namespace svgfigurer::cli

@@ -59,6 +59,7 @@ constexpr Switch switchTable[] = {
     {"newline-after-close-path", &SVGFigurerConfiguration::newlineAfterClosePath},
     {"hex-colors", &SVGFigurerConfiguration::useHexColor},
     {"indent-empty-lines", &SVGFigurerConfiguration::indentEmptyLines},
+    {"compilable-swift", &SVGFigurerConfiguration::compilableSwift},
 };
 
 // The settings the options ask for, or nothing after printing why they cannot be had.

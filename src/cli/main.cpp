@@ -16,10 +16,15 @@ int main(int argc, char** argv) {
   svgfigurer::cli::addNewCommand(app);
   svgfigurer::cli::addConfigCommand(app);
   svgfigurer::cli::addSamplesCommand(app);
+  svgfigurer::cli::addServiceCommand(app);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
-    return app.exit(error);
+    const int status = app.exit(error);
+    // The parser numbers each kind of argument error its own way; every one of them is an
+    // unusable command line, status 2. A command's own status passes through.
+    if (status == 0 || dynamic_cast<const CLI::RuntimeError*>(&error) != nullptr) return status;
+    return 2;
   }
   return 0;
 }

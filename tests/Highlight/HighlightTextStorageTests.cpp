@@ -20,13 +20,16 @@ class RecordingHighlighter final : public Highlighter {
     std::optional<std::string> language;
     std::shared_ptr<const HighlightJSTheme> theme;
     Completion completion;
+    std::shared_ptr<WorkItem> item;
+    bool answered = false;
   };
   std::shared_ptr<WorkItem> highlight(std::u16string text, std::optional<std::string> language,
                                       std::shared_ptr<const HighlightJSTheme> theme, Executor,
                                       Completion completion) override {
+    auto item = std::make_shared<WorkItem>();
     requests.push_back(
-        {std::move(text), std::move(language), std::move(theme), std::move(completion)});
-    return std::make_shared<WorkItem>();
+        {std::move(text), std::move(language), std::move(theme), std::move(completion), item});
+    return item;
   }
   std::vector<Request> requests;
 };
@@ -51,6 +54,9 @@ class HighlightTextStorageTest : public testing::Test {
  protected:
   void SetUp() override {
     document.setPlainText("abc\ndef\nghi");
+    // Answered plain, so that nothing of it is left in flight.
+    ASSERT_EQ(highlighter->requests.size(), 1u);
+    highlighter->requests[0].completion(StyledText(u"abc\ndef\nghi", TextStyle{}));
     highlighter->requests.clear();
   }
   void insert(int position, const QString& text) {
@@ -204,6 +210,189 @@ TEST_F(HighlightTextStorageTest, ALateResultForADeletedStorageIsIgnored) {
   highlighter->requests.back().completion(styled({{u"x", kBold}}));
   EXPECT_EQ(other.toPlainText(), "x");
 }
+
+// Large texts go out in chunks. Lines are 100 units with their break, so that a chunk holds 40.
+constexpr int kLineLength = 100;
+constexpr int kLinesPerChunk = HighlightTextStorage::kChunkLimit / kLineLength;
+
+QString numberedLines(int count) {
+  QString text;
+  for (int i = 0; i < count; ++i) {
+    QString line = QString("line %1 ").arg(i, 4, 10, QLatin1Char('0'));
+    text += line.leftJustified(kLineLength - 1, QLatin1Char('.')) + (i + 1 < count ? "\n" : "");
+  }
+  return text;
+}
+
+// The line a request starts with.
+int firstLine(const RecordingHighlighter::Request& request) {
+  return QString::fromStdU16String(request.text).mid(5, 4).toInt();
+}
+
+class ChunkingTest : public testing::Test {
+ protected:
+  void setVisibleLine(int line) {
+    visibleLine = line;
+    storage.setVisibleRangeProvider([this]() -> TextRange {
+      if (visibleLine < 0) return {};
+      return {visibleLine * kLineLength, 20 * kLineLength};
+    });
+  }
+  std::vector<RecordingHighlighter::Request*> outstanding() {
+    std::vector<RecordingHighlighter::Request*> open;
+    for (auto& request : highlighter->requests) {
+      if (!request.answered && !request.item->isCancelled()) open.push_back(&request);
+    }
+    return open;
+  }
+  void answer(RecordingHighlighter::Request& request) {
+    request.answered = true;
+    request.completion(StyledText(request.text, kBold));
+  }
+
+  int visibleLine = -1;
+  QTextDocument document;
+  std::shared_ptr<RecordingHighlighter> highlighter = std::make_shared<RecordingHighlighter>();
+  HighlightTextStorage storage{&document, highlighter};
+};
+
+struct VisibleRow {
+  const char* name;
+  int visibleLine;  // -1: no provider answer
+  int expectedFirst;
+  int expectedSecond;
+  int scrolledTo;
+  int expectedAfterScroll;
+};
+
+void PrintTo(const VisibleRow& row, std::ostream* out) {
+  *out << row.name;
+}
+
+class VisibleFirstTest : public ChunkingTest, public testing::WithParamInterface<VisibleRow> {};
+
+TEST_P(VisibleFirstTest, ChunksStartOnScreenAndFollowTheScroll) {
+  const VisibleRow& row = GetParam();
+  setVisibleLine(row.visibleLine);
+  document.setPlainText(numberedLines(200));
+  EXPECT_TRUE(highlighter->requests.empty()) << "a large range waits for the event loop";
+  QCoreApplication::processEvents();
+  ASSERT_EQ(highlighter->requests.size(), std::size_t{HighlightTextStorage::kMaxChunksInFlight});
+  EXPECT_EQ(firstLine(highlighter->requests[0]), row.expectedFirst);
+  EXPECT_EQ(firstLine(highlighter->requests[1]), row.expectedSecond);
+  setVisibleLine(row.scrolledTo);
+  answer(highlighter->requests[0]);
+  ASSERT_EQ(highlighter->requests.size(), 3u);
+  EXPECT_EQ(firstLine(highlighter->requests[2]), row.expectedAfterScroll);
+  for (const auto& request : highlighter->requests) {
+    EXPECT_LE(request.text.size(), std::size_t{HighlightTextStorage::kChunkLimit});
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Screens, VisibleFirstTest,
+                         testing::Values(VisibleRow{"noScreen", -1, 0, 40, 160, 160},
+                                         VisibleRow{"top", 0, 0, 40, 160, 160},
+                                         VisibleRow{"middle", 100, 100, 140, 20, 20},
+                                         VisibleRow{"bottomThenTheTop", 190, 190, 0, 100, 100}));
+
+struct EditDuringChunksRow {
+  const char* name;
+  int position;
+  int removed;
+  const char* inserted;
+  bool firstCancelled;
+  bool secondCancelled;
+};
+
+void PrintTo(const EditDuringChunksRow& row, std::ostream* out) {
+  *out << row.name;
+}
+
+class EditDuringChunksTest : public ChunkingTest,
+                             public testing::WithParamInterface<EditDuringChunksRow> {};
+
+TEST_P(EditDuringChunksTest, RequestsWhoseTextChangedAreCancelledAndTheRestStillApplies) {
+  const EditDuringChunksRow& row = GetParam();
+  document.setPlainText(numberedLines(200));
+  QCoreApplication::processEvents();
+  ASSERT_EQ(highlighter->requests.size(), 2u);  // lines 0-39 and 40-79
+  QTextCursor cursor(&document);
+  cursor.setPosition(row.position);
+  cursor.setPosition(row.position + row.removed, QTextCursor::KeepAnchor);
+  cursor.insertText(row.inserted);
+  EXPECT_EQ(highlighter->requests[0].item->isCancelled(), row.firstCancelled);
+  EXPECT_EQ(highlighter->requests[1].item->isCancelled(), row.secondCancelled);
+
+  // Answers arrive for all of them, cancelled or not: only live ones may show.
+  while (!outstanding().empty() || !storage.pendingRanges().empty()) {
+    for (auto& request : highlighter->requests) {
+      if (!request.answered) answer(request);
+    }
+    QCoreApplication::processEvents();
+  }
+  const QString text = document.toPlainText();
+  for (int position = 0; position < text.size(); position += 37) {
+    if (text[position] == '\n') continue;
+    ASSERT_EQ(storage.formatAt(position), toCharFormat(kBold)) << position;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Edits, EditDuringChunksTest,
+    testing::Values(
+        EditDuringChunksRow{"inTheFirstChunk", 10 * kLineLength, 0, "X", true, false},
+        EditDuringChunksRow{"joiningTheTwoChunks", 40 * kLineLength - 1, 1, "", true, true},
+        EditDuringChunksRow{"inPendingText", 150 * kLineLength, 0, "X\nY", false, false},
+        EditDuringChunksRow{"replacingEverything", 0, 200 * kLineLength - 1, "new", true, true}));
+
+struct LargeTextRow {
+  const char* name;
+  QString text;
+  bool highlighted;
+};
+
+void PrintTo(const LargeTextRow& row, std::ostream* out) {
+  *out << row.name;
+}
+
+class LargeTextTest : public ChunkingTest, public testing::WithParamInterface<LargeTextRow> {};
+
+TEST_P(LargeTextTest, AMegabyteIsHighlightedInBoundedPieces) {
+  document.setPlainText(GetParam().text);
+  setVisibleLine(3);
+  std::size_t largest = 0;
+  int rounds = 0;
+  while (rounds++ < 100000) {
+    QCoreApplication::processEvents();
+    const auto open = outstanding();
+    ASSERT_LE(open.size(), std::size_t{HighlightTextStorage::kMaxChunksInFlight});
+    if (open.empty()) break;
+    largest = std::max(largest, open.front()->text.size());
+    answer(*open.front());
+  }
+  EXPECT_LE(largest, std::size_t{HighlightTextStorage::kChunkLimit});
+  EXPECT_TRUE(storage.pendingRanges().empty());
+  const QTextCharFormat expected = GetParam().highlighted ? toCharFormat(kBold) : QTextCharFormat();
+  const QString text = document.toPlainText();
+  for (int position = 0; position < text.size(); position += 1009) {
+    if (text[position] == '\n') continue;
+    ASSERT_EQ(storage.formatAt(position), expected) << position;
+  }
+}
+
+QString lines(const QString& line, int count) {
+  return (line + "\n").repeated(count);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Shapes, LargeTextTest,
+    testing::Values(
+        LargeTextRow{"shortLines", numberedLines(10000), true},
+        LargeTextRow{"longLinesWithTags", lines(QString("<g a=\"1\"/>").repeated(3000), 33), true},
+        LargeTextRow{"longLinesWithoutBreaks",
+                     lines(QString::fromUtf8("ab\xF0\x9F\x98\x80").repeated(7000), 36), true},
+        LargeTextRow{"oneMinifiedMegabyteStaysPlain", QString("<g a=\"1\"/>").repeated(100000),
+                     false}));
 
 TEST(HighlightTextStorageEngineTest, HighlightsThroughTheRealEngineOnTheMainThread) {
   auto engine = HighlightJS::load({});

@@ -77,6 +77,7 @@ SVGSwiftUIExporter::Config configFrom(const nlohmann::json& json) {
   set("verbatimTexts", config.verbatimTexts);
   setOptional("modifierSectionComment", config.modifierSectionComment);
   setOptional("nestedViewsSectionComment", config.nestedViewsSectionComment);
+  set("compilableSwift", config.compilableSwift);
   return config;
 }
 

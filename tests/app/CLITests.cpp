@@ -151,6 +151,57 @@ TEST_F(CLITest, ConvertStartsFromTheSavedDefaultUnlessFresh) {
   EXPECT_EQ(refused.out, "");
 }
 
+// An arc with a rotated ellipse, an unknown colour name and a "*/" for the header comment.
+const std::string defectiveSVG =
+    R"(<svg xmlns="http://www.w3.org/2000/svg" width="20" height="20"><!-- */ -->)"
+    R"(<path d="M0 0A10 5 30 0 1 20 0" fill="qwe"/></svg>)";
+
+TEST_F(CLITest, CompilableSwiftCorrectsWhatTheNoteNames) {
+  const auto path = file("d.svg", defectiveSVG);
+  const auto asStored = run({"convert", "--fresh", path.string()});
+  EXPECT_EQ(asStored.exitCode, 0);
+  EXPECT_EQ(asStored.out, expectedSwift(defectiveSVG, SVGFigurerConfiguration::fresh()));
+  EXPECT_EQ(asStored.err,
+            "NOTE: the generated Swift does not compile as written (arc transform, rotation step, "
+            "unknown colour name, comment mark in the SVG header); turn on compilableSwift "
+            "(--compilable-swift) to correct it\n");
+  auto compilable = SVGFigurerConfiguration::fresh();
+  compilable.compilableSwift = true;
+  const auto corrected = run({"convert", "--fresh", "--compilable-swift", path.string()});
+  EXPECT_EQ(corrected.exitCode, 0);
+  EXPECT_EQ(corrected.out, expectedSwift(defectiveSVG, compilable));
+  EXPECT_EQ(corrected.err, "");
+  for (const char* text : {"Angle(radians: 3.1416), transform: ", ".rotated(by: 0.5236)",
+                           "Color.clear /*unknown: qwe */", "<!-- * / -->"}) {
+    EXPECT_NE(corrected.out.find(text), std::string::npos) << text;
+  }
+}
+
+struct UsageRow {
+  const char* name;
+  std::vector<std::string> arguments;
+  const char* message;
+};
+
+class UsageErrors : public CLITest, public testing::WithParamInterface<UsageRow> {};
+
+TEST_P(UsageErrors, ExitTwoWithTheReasonAndAPointerToHelp) {
+  const auto result = run(GetParam().arguments);
+  EXPECT_EQ(result.exitCode, 2);
+  EXPECT_EQ(result.out, "");
+  EXPECT_NE(result.err.find(GetParam().message), std::string::npos) << result.err;
+  EXPECT_NE(result.err.find("--help"), std::string::npos) << result.err;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, UsageErrors,
+    testing::Values(UsageRow{"BadInteger", {"convert", "--indent", "abc"}, "--indent"},
+                    UsageRow{"UnknownOption", {"convert", "--bogus"}, "--bogus"},
+                    UsageRow{"BadEnumValue", {"convert", "--indent-using", "weird"}, "weird"},
+                    UsageRow{"UnknownSubcommand", {"bogus"}, "subcommand"},
+                    UsageRow{"NoSubcommand", {}, "subcommand"}),
+    [](const auto& info) { return std::string(info.param.name); });
+
 TEST_F(CLITest, ConvertOfTextThatIsNotSVGExitsOne) {
   const auto path = file("x.svg", "not svg");
   const auto result = run({"convert", path.string()});

@@ -29,7 +29,7 @@ TEST(Configuration, FreshRecordHasTheFirstLaunchValues) {
   EXPECT_EQ(fresh.maximumFractionDigits, 4);
   EXPECT_TRUE(fresh.prefixSVG && fresh.infoComments && fresh.previewProvider && fresh.imports &&
               fresh.newlineAfterClosePath);
-  EXPECT_FALSE(fresh.indentEmptyLines || fresh.useHexColor);
+  EXPECT_FALSE(fresh.indentEmptyLines || fresh.useHexColor || fresh.compilableSwift);
 }
 
 TEST(Configuration, OnlyTheRequiredKeysDecodeWithProviderDefaults) {
@@ -71,12 +71,14 @@ const std::vector<DecodeRow> decodeRows = {
      [](auto& c) { return c.maximumFractionDigits == 2; }},
     {"ProviderKeysReadWhenPresent",
      withRequired(R"("prefixSVG":false,"maximumFractionDigits":7,"useHexColor":true,)"
-                  R"("indentEmptyLines":true,"imports":false)"),
+                  R"("indentEmptyLines":true,"imports":false,"compilableSwift":true)"),
      true,
      [](auto& c) {
        return !c.prefixSVG && c.maximumFractionDigits == 7 && c.useHexColor && c.indentEmptyLines &&
-              !c.imports;
+              !c.imports && c.compilableSwift;
      }},
+    {"WrongTypeForCompilableSwiftTakesDefault", withRequired(R"("compilableSwift":"on")"), true,
+     [](auto& c) { return !c.compilableSwift; }, 1},
     {"IntegralFloatReadsAsInteger", withRequired(R"("maximumFractionDigits":3.0)"), true,
      [](auto& c) { return c.maximumFractionDigits == 3; }},
     {"FractionalNumberIsWrongType", withRequired(R"("maximumFractionDigits":3.5)"), true,
@@ -122,7 +124,7 @@ const std::vector<DecodeRow> decodeRows = {
 INSTANTIATE_TEST_SUITE_P(Rows, ConfigurationDecoding, testing::ValuesIn(decodeRows),
                          [](const auto& info) { return std::string(info.param.name); });
 
-TEST(Configuration, EncodingWritesAllThirteenKeysAndRoundTrips) {
+TEST(Configuration, EncodingWritesAllFourteenKeysAndRoundTrips) {
   SVGFigurerConfiguration config;
   config.rootViewName = "Badge \"1\"";
   config.indentUsing = IndentType::tabs;
@@ -130,8 +132,11 @@ TEST(Configuration, EncodingWritesAllThirteenKeysAndRoundTrips) {
   config.useHexColor = true;
   config.maximumFractionDigits = 0;
   config.initType = InitType::autoInit;
+  config.compilableSwift = true;
   const auto json = toJSON(config);
-  EXPECT_EQ(json.size(), 13u);
+  EXPECT_EQ(json.size(), 14u);
+  EXPECT_EQ(configurationKeys().size(), 14u);
+  EXPECT_EQ(json["compilableSwift"], true);
   for (auto key : configurationKeys()) EXPECT_TRUE(json.contains(key)) << key;
   EXPECT_EQ(json["indentUsing"], "\t");
   EXPECT_EQ(json["initType"], "init");
@@ -178,6 +183,7 @@ TEST(Configuration, MapsOntoTheExporterSettingsAndKeepsTheRest) {
   config.initType = InitType::autoInit;
   config.positioningType = PositioningStyle::offset;
   config.maximumFractionDigits = 6;
+  config.compilableSwift = true;
   auto expected = SVGSwiftUIExporter::Config{};
   expected.rootViewName = "Logo";
   expected.infoComments = false;
@@ -189,6 +195,7 @@ TEST(Configuration, MapsOntoTheExporterSettingsAndKeepsTheRest) {
   expected.preferInitOverType = true;
   expected.positionUsingPadding = false;
   expected.maximumFractionDigits = 6;
+  expected.compilableSwift = true;
   EXPECT_EQ(config.exporterConfig(), expected);
   // The fresh record prefers the type name, unlike the exporter's own default.
   EXPECT_FALSE(SVGFigurerConfiguration::fresh().exporterConfig().preferInitOverType);
@@ -227,6 +234,7 @@ INSTANTIATE_TEST_SUITE_P(
                [](auto& c) { return c.maximumFractionDigits == -1; }},
         SetRow{"prefixSVG", "false", [](auto& c) { return !c.prefixSVG; }},
         SetRow{"useHexColor", "yes", nullptr},
+        SetRow{"compilableSwift", "true", [](auto& c) { return c.compilableSwift; }},
         SetRow{"initType", "init", [](auto& c) { return c.initType == InitType::autoInit; }},
         SetRow{"positioningType", "offset",
                [](auto& c) { return c.positioningType == PositioningStyle::offset; }},

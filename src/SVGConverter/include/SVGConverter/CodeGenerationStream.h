@@ -36,6 +36,11 @@ class CodeGenerationStream {
   // Set when a colour was written in the hexadecimal form that needs the colour extension.
   bool didUseHexColorInit = false;
 
+  // Records a defect written into the text; the emitters that write one see the stream as
+  // const, hence the mutable record.
+  void noteDefect(SVGSwiftUIExporter::Defect defect) const { defects_ |= defect; }
+  SVGSwiftUIExporter::Defects defects() const { return defects_; }
+
   void appendBlankLine();
   // `info` obeys `infoComments`; `comment` is written whatever it says.
   void appendLine(std::string_view text, std::optional<std::string_view> comment = std::nullopt,
@@ -110,6 +115,7 @@ class CodeGenerationStream {
   // Whether the text handed to the sink so far ends a line: nothing handed over counts as not.
   bool flushedEndsLine_ = false;
   int indent_ = 0;
+  mutable SVGSwiftUIExporter::Defects defects_ = 0;
   // The indentation of every depth reached so far, one after the other; the prefix of the
   // current depth is its start.
   std::string indentRun_;

@@ -25,6 +25,8 @@ struct GeneratedSwift {
 };
 
 // Logs "rebuilding SVG ..." and, for text that does not parse, "Parsing of SVG failed.".
+// Text the compiler would reject, written because `compilableSwift` is off, is reported to
+// `report` as one line.
 // Text that is only white space gives "// Empty SVG\n" and is not a failure.
 GeneratedSwift generateSwift(std::string_view svg, const SVGFigurerConfiguration& config,
                              CoreS::Logger& log, const SVGParser::Report& report = {});
@@ -36,8 +38,8 @@ bool generateSwift(std::string&& svg, const SVGFigurerConfiguration& config, Cor
                    const SVGParser::Report& report, const SVGSwiftUIExporter::TextSink& sink);
 
 // The header comment that `generateSwift` puts ahead of the exporter's text: every non-empty
-// line of the SVG, as it stands.
-std::string svgHeaderComment(std::string_view svg);
+// line of the SVG, as it stands, or with "/*" and "*/" broken apart for compilable text.
+std::string svgHeaderComment(std::string_view svg, bool compilable = false);
 
 // No logging, no header; blank text counts as a parse failure. A failure names `fileName`.
 Snapshot makeSnapshot(std::string svg, const std::optional<std::string>& fileName,

@@ -1,4 +1,4 @@
-// The thirteen settings a user controls, their JSON form and their mapping onto the exporter's
+// The fourteen settings a user controls, their JSON form and their mapping onto the exporter's
 // larger settings record.
 #pragma once
 
@@ -75,6 +75,9 @@ struct SVGFigurerConfiguration {
   // A fresh record has 4; a JSON record without the key has 2 (DefaultInt2).
   int maximumFractionDigits = 4;
   bool useHexColor = false;
+  // Off, the text is exactly what existing documents hold, defects included; on, it is
+  // corrected so that it builds. Off when the key is missing, so older records decode as before.
+  bool compilableSwift = false;
 
   bool operator==(const SVGFigurerConfiguration&) const = default;
 
@@ -88,7 +91,7 @@ struct SVGFigurerConfiguration {
 // value read from a file must not be able to make every generated line gigabytes long.
 inline constexpr int maximumIndentWidth = 64;
 
-// All thirteen keys, always.
+// All fourteen keys, always.
 nlohmann::json toJSON(const SVGFigurerConfiguration& config);
 // Compact JSON text, as the document file and the defaults store hold it.
 std::string encodeJSON(const SVGFigurerConfiguration& config);
@@ -102,7 +105,7 @@ Decoded<SVGFigurerConfiguration> decodeConfiguration(const nlohmann::json& json,
 Decoded<SVGFigurerConfiguration> decodeConfigurationText(std::string_view jsonText,
                                                          const SVGParser::Report& report = {});
 
-// The thirteen key names in record order.
+// The fourteen key names in record order.
 std::span<const std::string_view> configurationKeys();
 
 // Sets one key from command-line text: booleans as "true"/"false", integers in decimal,
