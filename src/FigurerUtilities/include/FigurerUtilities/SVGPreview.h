@@ -1,5 +1,5 @@
 // The preview page: the SVG text in a fixed HTML page, its root tag rewritten so that the image
-// scales to the pane. Pure text work; the web view that shows the page lives in the app.
+// scales to the pane. Pure text work; the web view that shows it lives in the preview target.
 #pragma once
 
 #include <string>

@@ -1,6 +1,6 @@
 // The document logic of SVGFigurer, without any user interface:
 //
-//   SVGFigurerConfiguration.h  the thirteen user settings, their JSON, the exporter mapping
+//   SVGFigurerConfiguration.h  the fourteen user settings, their JSON, the exporter mapping
 //   ConfigurationDefaults.h    the default settings for new documents and their persistence
 //   DefaultsStore.h            the key-value store under the user's configuration folder
 //   SVGFigurerDocument.h       the document, its rebuild rule, observers and undo hook
