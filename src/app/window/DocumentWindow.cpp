@@ -401,7 +401,9 @@ QString DocumentWindow::displayName() const {
 bool DocumentWindow::hasUnsavedChanges() const {
   // Untitled content that came in from outside (a sample, the service, a file handed in) is
   // worth keeping as much as typed content is; an untouched new document is not.
-  return document_->snapshot() != savedSnapshot_;
+  // Compared in place: a snapshot copies both texts, and this runs on every keystroke.
+  return document_->svgString() != savedSnapshot_.svg ||
+         document_->swift() != savedSnapshot_.swift || savedSnapshot_.config != document_->config();
 }
 
 void DocumentWindow::updateTitle() {
