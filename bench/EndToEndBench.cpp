@@ -5,6 +5,7 @@
 
 #include <string>
 
+#include "BenchSupport.h"
 #include "SVGFigurerApp/SVGFigurerApp.h"
 #include "SyntheticSVG.h"
 
@@ -12,14 +13,7 @@ namespace {
 
 using SVGFigurerApp::SVGFigurerConfiguration;
 
-// Log calls still cost their level check, as they do in the app; nothing is written.
-class SilentLogger final : public CoreS::Logger {
- public:
-  CoreS::LogLevel logLevel() const override { return CoreS::LogLevel::error; }
-  void primaryLog(CoreS::LogLevel, CoreS::MessageProducer,
-                  std::span<const CoreS::LogValue>) override {}
-  std::string description() const override { return "SilentLogger"; }
-};
+using bench::SilentLogger;
 
 void BM_EndToEnd_LargePath(benchmark::State& state) {
   const std::string& text = bench::largePathSVG();

@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <random>
+#include <string_view>
 
 namespace bench {
 
@@ -83,6 +84,19 @@ const std::string& iconSetSVG() {
     return svg + "</svg>\n";
   }();
   return text;
+}
+
+std::string rectSVG(std::size_t count) {
+  std::string svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"512\" height=\"512\">\n";
+  constexpr std::string_view rect = "<rect width=\"1\" height=\"1\"/>\n";
+  svg.reserve(svg.size() + count * rect.size() + 8);
+  for (std::size_t i = 0; i < count; ++i) svg += rect;
+  return svg + "</svg>\n";
+}
+
+const std::string& rectsSVG() {
+  static const std::string svg = rectSVG(200'000);
+  return svg;
 }
 
 }  // namespace bench

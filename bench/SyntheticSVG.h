@@ -17,5 +17,9 @@ const std::string& hugePathSVG();
 // About 100 KB in the shape icon sets take: a grid of 24 by 24 glyphs, each a group holding a
 // few paths of relative curves, with shared classes in a stylesheet.
 const std::string& iconSetSVG();
+// `count` unit squares, one element a line: the shape-heavy worst case, where per-element costs
+// outweigh the text. 200,000 of them make about 5.6 MB.
+std::string rectSVG(std::size_t count);
+const std::string& rectsSVG();
 
 }  // namespace bench

@@ -1,6 +1,7 @@
 // The inside of a container's view struct: statics, definitions, nested types, the resizing
 // support and the body, with the modifiers and position lines every view shares.
 #include <cmath>
+#include <memory>
 #include <numbers>
 #include <string>
 #include <type_traits>
@@ -40,39 +41,56 @@ void appendPositionLines(CodeGenerationStream& s, const std::optional<CGPoint>& 
   if (y && *y != 0) s.appendLine(".padding(.top, " + s.numberString(*y) + ")");
 }
 
+void appendCall(CodeGenerationStream& s, std::string_view typeName, bool resizable,
+                const std::optional<CGPoint>& origin, const std::optional<CGSize>& size) {
+  std::string call;
+  call.reserve(typeName.size() + 2);
+  call += typeName;
+  call += "()";
+  s.appendLine(call);
+  s.indented(true, [&] {
+    if (resizable) s.appendLine(".resizable()");
+    appendPositionLines(s, origin, size);
+  });
+}
+
 void appendChild(CodeGenerationStream& s, const Subview& child) {
   if (const auto* text = std::get_if<SwiftUIModel::Text>(&child.value)) {
     appendText(s, *text);
     return;
   }
-  s.appendLine(child.typeName() + "()");
-  s.indented(true, [&] {
-    std::visit(
-        [&](const auto& view) {
-          using T = std::decay_t<decltype(view)>;
-          if constexpr (std::is_same_v<T, ContainerViewType>) {
-            if (hasResizable(view)) s.appendLine(".resizable()");
-          }
-          if constexpr (!std::is_same_v<T, SwiftUIModel::Text>) {
-            appendPositionLines(s, view.origin, view.intrinsicSize);
-          }
-        },
-        child.value);
-  });
+  std::visit(
+      [&](const auto& view) {
+        using T = std::decay_t<decltype(view)>;
+        if constexpr (!std::is_same_v<T, SwiftUIModel::Text>) {
+          bool resizable = false;
+          if constexpr (std::is_same_v<T, ContainerViewType>) resizable = hasResizable(view);
+          appendCall(s, view.typeName, resizable, view.origin, view.intrinsicSize);
+        }
+      },
+      child.value);
+}
+
+void appendChild(CodeGenerationStream& s, const ChildCalls::Call& child) {
+  if (child.text != nullptr) {
+    appendText(s, *child.text);
+    return;
+  }
+  appendCall(s, child.typeName, child.resizable, child.origin, child.intrinsicSize);
 }
 
 // The children, then the container's modifiers and `after`'s lines: one level in after a
 // single view, at the block's own level after a "ZStack" block.
-template <class After>
-void appendContent(CodeGenerationStream& s, const ContainerViewType& c, After&& after) {
-  const auto& children = c.childTypes;
+template <class Children, class After>
+void appendContent(CodeGenerationStream& s, const ContainerViewType& c, const Children& children,
+                   After&& after) {
   if (children.empty()) {
     s.appendLine("EmptyView()", std::nullopt, "Group w/o content");
   } else if (children.size() == 1) {
     appendChild(s, children.front());
   } else {
     s.appendBlock("ZStack(alignment: .topLeading)", std::nullopt, [&] {
-      for (const auto& child : children) appendChild(s, child);
+      for (std::size_t i = 0; i < children.size(); ++i) appendChild(s, children[i]);
     });
   }
   s.indented(children.size() <= 1, [&] {
@@ -116,7 +134,8 @@ void appendProxyScaling(CodeGenerationStream& s, const SwiftUIModel::Resizable& 
   s.appendLine(".frame(width: proxy.size.width, height: proxy.size.height)");
 }
 
-void appendBody(CodeGenerationStream& s, const ContainerViewType& c) {
+template <class Children>
+void appendBody(CodeGenerationStream& s, const ContainerViewType& c, const Children& children) {
   const auto& viewBox = c.viewBox;
   const bool resizable = hasResizable(c);
   const bool needsOffset = viewBox && (viewBox->origin.x != 0 || viewBox->origin.y != 0);
@@ -124,7 +143,8 @@ void appendBody(CodeGenerationStream& s, const ContainerViewType& c) {
     if (c.intrinsicSize) appendFixedFrame(s, *c.intrinsicSize, padding);
   };
   const auto geometryReader = [&](auto&& scaling) {
-    s.appendBlock("GeometryReader { proxy in", std::nullopt, [&] { appendContent(s, c, scaling); });
+    s.appendBlock("GeometryReader { proxy in", std::nullopt,
+                  [&] { appendContent(s, c, children, scaling); });
   };
   const auto viewBoxScaling = [&] { appendViewBoxScaling(s, needsOffset); };
 
@@ -133,59 +153,41 @@ void appendBody(CodeGenerationStream& s, const ContainerViewType& c) {
   } else if (viewBox) {
     s.appendBlock("if isResizable", std::nullopt, [&] { geometryReader(viewBoxScaling); });
     s.appendBlock("else", std::nullopt,
-                  [&] { appendContent(s, c, [&] { fixedFrame(needsOffset); }); });
+                  [&] { appendContent(s, c, children, [&] { fixedFrame(needsOffset); }); });
   } else if (!resizable) {
-    appendContent(s, c, [&] { fixedFrame(false); });
+    appendContent(s, c, children, [&] { fixedFrame(false); });
   } else {
     s.appendBlock("if isResizable", std::nullopt,
                   [&] { geometryReader([&] { appendProxyScaling(s, c.resizable); }); });
-    s.appendBlock("else", std::nullopt, [&] { appendContent(s, c, [&] { fixedFrame(false); }); });
+    s.appendBlock("else", std::nullopt,
+                  [&] { appendContent(s, c, children, [&] { fixedFrame(false); }); });
   }
 }
 
-void appendResizingMembersAndBody(CodeGenerationStream& s, const ContainerViewType& c) {
+template <class Children>
+void writeMembersAndBody(CodeGenerationStream& s, const ContainerViewType& c,
+                         const Children& children) {
   if (hasResizable(c)) {
     s.appendBlankLine();
     s.appendLine("var isResizable = false");
     s.appendLine("func resizable() -> Self { Self(isResizable: true) }");
   }
   s.appendBlankLine();
-  s.appendBlock("var body: some View", std::nullopt, [&] { appendBody(s, c); });
+  s.appendBlock("var body: some View", std::nullopt, [&] { appendBody(s, c, children); });
 }
 
 void appendNestedTypes(CodeGenerationStream& s, const std::vector<Subview>& children,
-                       const SVGParser::Report& report);
+                       const SVGParser::Report& report) {
+  for (const auto& child : children) appendNestedType(s, child, report);
+}
 
 void appendGroupStruct(CodeGenerationStream& s, const ContainerViewType& group,
                        const SVGParser::Report& report) {
   s.appendBlock("struct " + group.typeName + ": View", std::nullopt, [&] {
     s.appendInfoComment("Group");
     appendNestedTypes(s, group.childTypes, report);
-    appendResizingMembersAndBody(s, group);
+    writeMembersAndBody(s, group, group.childTypes);
   });
-}
-
-// Recursion follows the container nesting, which the conversion bounds.
-void appendNestedTypes(CodeGenerationStream& s, const std::vector<Subview>& children,
-                       const SVGParser::Report& report) {
-  for (const auto& child : children) {
-    if (child.kind == Subview::Kind::text) continue;
-    s.appendBlankLine();
-    switch (child.kind) {
-      case Subview::Kind::group:
-        appendGroupStruct(s, std::get<ContainerViewType>(child.value), report);
-        break;
-      case Subview::Kind::svg: {
-        const auto& svg = std::get<ContainerViewType>(child.value);
-        s.appendInfoComment("SVG");
-        s.appendBlock("struct " + svg.typeName + ": View", std::nullopt,
-                      [&] { appendContainerBody(s, svg, report); });
-        break;
-      }
-      default:
-        appendShapeStruct(s, child);
-    }
-  }
 }
 
 void appendDefinition(CodeGenerationStream& s, const SwiftUIModel::Definition& definition,
@@ -263,7 +265,52 @@ void appendMultilineSteps(CodeGenerationStream& s, const std::vector<std::string
   });
 }
 
-void appendContainerBody(CodeGenerationStream& s, const ContainerViewType& c,
+void ChildCalls::add(Subview&& child) {
+  Entry entry{names_.size(), 0, 0, 0, 0, 0, 0};
+  if (auto* text = std::get_if<SwiftUIModel::Text>(&child.value)) {
+    entry.flags = isText;
+    entry.text = texts_.size();
+    texts_.push_back(std::move(*text));
+    entries_.push_back(entry);
+    return;
+  }
+  std::visit(
+      [&](const auto& view) {
+        using T = std::decay_t<decltype(view)>;
+        if constexpr (!std::is_same_v<T, SwiftUIModel::Text>) {
+          names_ += view.typeName;
+          entry.nameEnd = names_.size();
+          if (view.origin) {
+            entry.flags |= hasOrigin;
+            entry.x = view.origin->x;
+            entry.y = view.origin->y;
+          }
+          if (view.intrinsicSize) {
+            entry.flags |= hasSize;
+            entry.width = view.intrinsicSize->width;
+            entry.height = view.intrinsicSize->height;
+          }
+          if constexpr (std::is_same_v<T, ContainerViewType>) {
+            if (hasResizable(view)) entry.flags |= resizable;
+          }
+        }
+      },
+      child.value);
+  entries_.push_back(entry);
+}
+
+ChildCalls::Call ChildCalls::operator[](std::size_t index) const {
+  const Entry& entry = entries_[index];
+  if ((entry.flags & isText) != 0) return {{}, {}, {}, false, &texts_[entry.text]};
+  const std::size_t start = index == 0 ? 0 : entries_[index - 1].nameEnd;
+  Call call{std::string_view(names_).substr(start, entry.nameEnd - start), {}, {}, false, nullptr};
+  if ((entry.flags & hasOrigin) != 0) call.origin = CGPoint{entry.x, entry.y};
+  if ((entry.flags & hasSize) != 0) call.intrinsicSize = CGSize{entry.width, entry.height};
+  call.resizable = (entry.flags & resizable) != 0;
+  return call;
+}
+
+void appendContainerHead(CodeGenerationStream& s, const ContainerViewType& c,
                          const SVGParser::Report& report) {
   const auto& config = s.config();
   const bool wroteStatics = appendStatics(s, std::nullopt, c.intrinsicSize, true);
@@ -278,12 +325,48 @@ void appendContainerBody(CodeGenerationStream& s, const ContainerViewType& c,
     s.appendBlankLine();
     appendDefinition(s, definition, report);
   }
-  if (config.infoComments && !c.childTypes.empty() && config.nestedViewsSectionComment) {
+}
+
+void appendNestedViewsComment(CodeGenerationStream& s) {
+  const auto& config = s.config();
+  if (config.infoComments && config.nestedViewsSectionComment) {
     s.appendBlankLine();
     s.appendInfoComment(*config.nestedViewsSectionComment);
   }
+}
+
+// Recursion follows the container nesting, which the conversion bounds.
+void appendNestedType(CodeGenerationStream& s, const Subview& child,
+                      const SVGParser::Report& report) {
+  if (child.kind == Subview::Kind::text) return;
+  s.appendBlankLine();
+  switch (child.kind) {
+    case Subview::Kind::group:
+      appendGroupStruct(s, std::get<ContainerViewType>(child.value), report);
+      break;
+    case Subview::Kind::svg: {
+      const auto& svg = std::get<ContainerViewType>(child.value);
+      s.appendInfoComment("SVG");
+      s.appendBlock("struct " + svg.typeName + ": View", std::nullopt,
+                    [&] { appendContainerBody(s, svg, report); });
+      break;
+    }
+    default:
+      appendShapeStruct(s, child);
+  }
+}
+
+void appendMembersAndBody(CodeGenerationStream& s, const ContainerViewType& c,
+                          const ChildCalls& children) {
+  writeMembersAndBody(s, c, children);
+}
+
+void appendContainerBody(CodeGenerationStream& s, const ContainerViewType& c,
+                         const SVGParser::Report& report) {
+  appendContainerHead(s, c, report);
+  if (!c.childTypes.empty()) appendNestedViewsComment(s);
   appendNestedTypes(s, c.childTypes, report);
-  appendResizingMembersAndBody(s, c);
+  writeMembersAndBody(s, c, c.childTypes);
 }
 
 }  // namespace SVGConverter

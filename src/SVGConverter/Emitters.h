@@ -2,7 +2,10 @@
 // stream. The container emitters call the shape, text, paint and filter ones.
 #pragma once
 
+#include <cstdint>
 #include <optional>
+#include <string>
+#include <string_view>
 #include <vector>
 
 #include "SVGConverter/CodeGenerationStream.h"
@@ -18,6 +21,46 @@ using SwiftUIModel::TransformStep;
 // Containers (ContainerEmission.cpp).
 void appendContainerBody(CodeGenerationStream& s, const ContainerViewType& container,
                          const SVGParser::Report& report);
+// The same in parts, for a container whose children are written as each is converted: the
+// statics and definitions; the comment ahead of the first child; each child's own type; then,
+// from what the body needs of each child, the members and the body.
+void appendContainerHead(CodeGenerationStream& s, const ContainerViewType& container,
+                         const SVGParser::Report& report);
+void appendNestedViewsComment(CodeGenerationStream& s);
+void appendNestedType(CodeGenerationStream& s, const SwiftUIModel::Subview& child,
+                      const SVGParser::Report& report);
+// What a container's body writes of each child: the call of its view with the position lines,
+// or, for a text, the text itself. Compact, for roots of many thousands of children.
+class ChildCalls {
+ public:
+  struct Call {
+    std::string_view typeName;
+    std::optional<CGPoint> origin;
+    std::optional<CGSize> intrinsicSize;
+    bool resizable = false;
+    const SwiftUIModel::Text* text = nullptr;
+  };
+
+  void add(SwiftUIModel::Subview&& child);
+  std::size_t size() const { return entries_.size(); }
+  bool empty() const { return entries_.empty(); }
+  Call operator[](std::size_t index) const;
+  Call front() const { return (*this)[0]; }
+
+ private:
+  enum Flag : std::uint8_t { hasOrigin = 1, hasSize = 2, resizable = 4, isText = 8 };
+  struct Entry {
+    std::size_t nameEnd;  // in `names_`; the name starts where the previous one ends
+    double x, y, width, height;
+    std::size_t text;  // in `texts_`
+    std::uint8_t flags;
+  };
+  std::string names_;
+  std::vector<Entry> entries_;
+  std::vector<SwiftUIModel::Text> texts_;
+};
+void appendMembersAndBody(CodeGenerationStream& s, const ContainerViewType& container,
+                          const ChildCalls& children);
 // "static let intrinsicSize" and "static let origin"; whether anything was written.
 bool appendStatics(CodeGenerationStream& s, const std::optional<CGPoint>& origin,
                    const std::optional<CGSize>& size, bool forced);

@@ -85,6 +85,23 @@ const SVG::PresentationAttributes& SVGSwiftUIFigurer::currentAttributes() const 
 }
 
 ContainerViewType SVGSwiftUIFigurer::convert(const SVG& svg, std::string_view name) {
+  ContainerViewType container = beginSVG(svg, name);
+  container.childTypes = convertChildren(svg.children);
+  endSVG(svg, container);
+  return container;
+}
+
+namespace {
+
+// The size the children of an `svg` measure against: its view box, else its own size.
+std::optional<CGSize> childExtent(const ContainerViewType& container) {
+  if (container.viewBox) return container.viewBox->size;
+  return container.intrinsicSize;
+}
+
+}  // namespace
+
+ContainerViewType SVGSwiftUIFigurer::beginSVG(const SVG& svg, std::string_view name) {
   ++nesting_;
   pushAttributes(svg.presentation);
   ContainerViewType container;
@@ -100,6 +117,8 @@ ContainerViewType SVGSwiftUIFigurer::convert(const SVG& svg, std::string_view na
         svgID, ScopedDefinition{container.typeName + "." + definition.name(), definition});
   }
   svgDefsStack.push_back(std::move(scope));
+  container.definitions.reserve(definitions.size());
+  for (auto& entry : definitions) container.definitions.push_back(std::move(entry.second));
 
   auto width = points(svg.width);
   auto height = points(svg.height);
@@ -110,35 +129,26 @@ ContainerViewType SVGSwiftUIFigurer::convert(const SVG& svg, std::string_view na
   if (width && height) container.intrinsicSize = CGSize{*width, *height};
   container.resizable = {width, height};
 
-  std::optional<CGSize> extent = container.intrinsicSize;
   if (svg.viewBox) {
     const auto& box = *svg.viewBox;
     const bool saysNothingNew = container.intrinsicSize && box.origin.x == 0 && box.origin.y == 0 &&
                                 box.size == *container.intrinsicSize;
-    if (!saysNothingNew) {
-      container.viewBox = box;
-      extent = box.size;
-    }
+    if (!saysNothingNew) container.viewBox = box;
   }
-  walkChildrenWithSize(svg, extent, container);
+  if (const auto extent = childExtent(container)) svgPointSizeStack.push_back(*extent);
+  return container;
+}
+
+void SVGSwiftUIFigurer::endSVG(const SVG& svg, ContainerViewType& container) {
+  if (childExtent(container)) svgPointSizeStack.pop_back();
   svgDefsStack.pop_back();
 
   const auto origin = SVGConverter::frameFields({points(svg.x), points(svg.y), {}, {}}).origin;
   container.origin = origin;
   container.filterModifier = lookupFilter(currentAttributes().filter);
-  container.definitions.reserve(definitions.size());
-  for (auto& entry : definitions) container.definitions.push_back(std::move(entry.second));
   container.transform = SVGConverter::transformSteps(currentAttributes().transform);
   popAttributes();
   --nesting_;
-  return container;
-}
-
-void SVGSwiftUIFigurer::walkChildrenWithSize(const SVG& svg, std::optional<CGSize> size,
-                                             ContainerViewType& into) {
-  if (size) svgPointSizeStack.push_back(*size);
-  into.childTypes = convertChildren(svg.children);
-  if (size) svgPointSizeStack.pop_back();
 }
 
 ContainerViewType SVGSwiftUIFigurer::convert(const SVG::Group& group) {

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "CoreS/DoubleText.h"
 #include "Emitters.h"
@@ -88,22 +89,70 @@ void appendPreviewProvider(CodeGenerationStream& s, const ContainerViewType& roo
   });
 }
 
-void writeFile(CodeGenerationStream& s, const SVG& svg, const SVGSwiftUIExporter::Config& config,
-               const SVGParser::Report& report) {
+// Report lines held back until the end, so that the converter's all come before the
+// writer's, as when the whole model was made before the first line was written.
+class DeferredReport {
+ public:
+  explicit DeferredReport(const SVGParser::Report& report) {
+    if (report.enabled()) {
+      sink_ = SVGParser::Report([this](std::string_view line) { lines_.emplace_back(line); });
+    }
+  }
+  DeferredReport(const DeferredReport&) = delete;
+  DeferredReport& operator=(const DeferredReport&) = delete;
+
+  const SVGParser::Report& report() const { return sink_; }
+  void passOn(const SVGParser::Report& report) const {
+    for (const auto& line : lines_) report.print({line});
+  }
+
+ private:
+  SVGParser::Report sink_;
+  std::vector<std::string> lines_;
+};
+
+void writeFile(CodeGenerationStream& s, const SVG& root,
+               const SVGSwiftUIExporter::ChildSource& nextChild,
+               const SVGSwiftUIExporter::Config& config, const SVGParser::Report& report) {
   if (config.generateImport) {
     s.appendLine("import SwiftUI");
     s.appendBlankLine();
   }
-  // The whole model is built before the first line of it is written.
-  const auto root = SVGSwiftUIFigurer::makeModel(svg, config.rootViewName, report);
+  const DeferredReport converterLines(report);
+  const DeferredReport writerLines(report);
+  SVGSwiftUIFigurer figurer(converterLines.report());
+  figurer.pushAttributes(SVGSwiftUIFigurer::defaultAttributes());
+  auto container = figurer.beginSVG(root, config.rootViewName);
   s.appendInfoComment("SVG");
-  s.appendBlock("struct " + root.typeName + ": View", std::nullopt,
-                [&] { appendContainerBody(s, root, report); });
+  s.appendBlock("struct " + container.typeName + ": View", std::nullopt, [&] {
+    appendContainerHead(s, container, writerLines.report());
+    ChildCalls calls;
+    std::vector<SwiftUIModel::Subview> converted;
+    while (const SVG::GroupItem* item = nextChild()) {
+      figurer.convertChild(*item, converted);
+      for (auto& child : converted) {
+        if (calls.empty()) appendNestedViewsComment(s);
+        appendNestedType(s, child, writerLines.report());
+        calls.add(std::move(child));
+      }
+      converted.clear();
+    }
+    figurer.endSVG(root, container);
+    appendMembersAndBody(s, container, calls);
+  });
   if (config.exportHexColorExtension && s.didUseHexColorInit) {
     s.appendBlankLine();
     appendColorExtension(s);
   }
-  if (config.generatePreviewProvider) appendPreviewProvider(s, root);
+  if (config.generatePreviewProvider) appendPreviewProvider(s, container);
+  converterLines.passOn(report);
+  writerLines.passOn(report);
+}
+
+SVGSwiftUIExporter::ChildSource childrenOf(const SVG& svg) {
+  return [&svg, next = std::size_t{0}]() mutable -> const SVG::GroupItem* {
+    return next < svg.children.size() ? &svg.children[next++] : nullptr;
+  };
 }
 
 }  // namespace
@@ -120,8 +169,14 @@ std::string SVGSwiftUIExporter::generate(const SVG& svg, const Config& config,
 void SVGSwiftUIExporter::generate(const SVG& svg, const Config& config,
                                   const SVGParser::Report& report, std::string& text,
                                   Defects* defects) {
+  generate(svg, SVGConverter::childrenOf(svg), config, report, text, defects);
+}
+
+void SVGSwiftUIExporter::generate(const SVG& root, const ChildSource& children,
+                                  const Config& config, const SVGParser::Report& report,
+                                  std::string& text, Defects* defects) {
   SVGConverter::CodeGenerationStream s(config, std::move(text));
-  SVGConverter::writeFile(s, svg, config, report);
+  SVGConverter::writeFile(s, root, children, config, report);
   text = s.takeText();
   if (defects != nullptr) *defects |= s.defects();
 }
@@ -129,8 +184,14 @@ void SVGSwiftUIExporter::generate(const SVG& svg, const Config& config,
 void SVGSwiftUIExporter::generate(const SVG& svg, const Config& config,
                                   const SVGParser::Report& report, const TextSink& sink,
                                   Defects* defects) {
+  generate(svg, SVGConverter::childrenOf(svg), config, report, sink, defects);
+}
+
+void SVGSwiftUIExporter::generate(const SVG& root, const ChildSource& children,
+                                  const Config& config, const SVGParser::Report& report,
+                                  const TextSink& sink, Defects* defects) {
   SVGConverter::CodeGenerationStream s(config, sink);
-  SVGConverter::writeFile(s, svg, config, report);
+  SVGConverter::writeFile(s, root, children, config, report);
   s.flush();
   if (defects != nullptr) *defects |= s.defects();
 }

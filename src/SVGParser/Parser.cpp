@@ -9,7 +9,9 @@
 #include <limits>
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <unordered_set>
+#include <utility>
 
 #include "ElementNames.h"
 #include "SVGParser/Describe.h"
@@ -128,79 +130,114 @@ struct StyleCollector {
   }
 };
 
-// The events of one expat run in a compact form: every string lives in one arena, and runs of
-// character data are merged (the tree builder only ever appends them).
+// The events of one expat run in a compact form, since it lives through the whole conversion:
+// element and attribute names are interned, values and text live in one arena, and the events
+// are a byte code of kinds, name numbers and lengths (variable-length integers). Character data
+// is kept only inside `text` elements, the one place the tree builder reads it.
 class EventRecording {
  public:
+  struct Cursor {
+    std::size_t code = 0;
+    std::size_t arena = 0;
+  };
+
   void start(std::string_view name, const XML_Char** atts) {
-    const std::size_t first = spans_.size();
-    add(name);
+    if (name == "text") ++openTexts_;
+    std::size_t count = 0;
+    for (const XML_Char** a = atts; a[0] != nullptr; a += 2) ++count;
+    codes_ += static_cast<char>(Kind::start);
+    putNumber(intern(name));
+    putNumber(count);
     for (const XML_Char** a = atts; a[0] != nullptr; a += 2) {
-      add(a[0]);
+      putNumber(intern(a[0]));
       add(a[1]);
     }
-    events_.push_back({Event::Kind::start, first, spans_.size() - first});
   }
   void end(std::string_view name) {
-    events_.push_back({Event::Kind::end, spans_.size(), 1});
-    add(name);
+    if (name == "text" && openTexts_ > 0) --openTexts_;
+    codes_ += static_cast<char>(Kind::end);
+    putNumber(intern(name));
   }
   void characters(std::string_view text) {
-    if (!events_.empty() && events_.back().kind == Event::Kind::characters) {
-      // The previous run's text is the arena's tail, so the two simply join.
-      arena_ += text;
-      spans_.back().length += text.size();
-      return;
-    }
-    events_.push_back({Event::Kind::characters, spans_.size(), 1});
+    if (openTexts_ == 0) return;
+    codes_ += static_cast<char>(Kind::characters);
     add(text);
   }
 
   template <class Delegate>
   void replay(Delegate& delegate) const {
-    std::vector<Attributes::Item> items;
-    for (const Event& event : events_) {
-      switch (event.kind) {
-        case Event::Kind::start:
-          items.clear();
-          for (std::size_t i = event.first + 1; i + 1 < event.first + event.count; i += 2) {
-            items.emplace_back(view(i), view(i + 1));
-          }
-          delegate.start(view(event.first), Attributes(std::move(items)));
-          break;
-        case Event::Kind::end:
-          delegate.end(view(event.first));
-          break;
-        case Event::Kind::characters:
-          delegate.characters(view(event.first));
-          break;
-      }
+    for (Cursor cursor; replayNext(delegate, cursor);) {
     }
   }
 
- private:
-  struct Event {
-    enum class Kind : std::uint8_t { start, end, characters };
-    Kind kind;
-    std::size_t first;  // index of the first span: the name, then attribute names and values
-    std::size_t count;
-  };
-  struct Span {
-    std::size_t offset;
-    std::size_t length;
-  };
+  // Hands the event at `cursor` to `delegate` and moves past it; false after the last one.
+  template <class Delegate>
+  bool replayNext(Delegate& delegate, Cursor& cursor) const {
+    if (cursor.code >= codes_.size()) return false;
+    const auto kind = static_cast<Kind>(codes_[cursor.code++]);
+    switch (kind) {
+      case Kind::start: {
+        const std::string_view name = names_[takeNumber(cursor)];
+        std::size_t count = takeNumber(cursor);
+        std::vector<Attributes::Item> items;
+        items.reserve(count);
+        while (count-- > 0) {
+          const std::string_view key = names_[takeNumber(cursor)];
+          items.emplace_back(key, take(cursor));
+        }
+        delegate.start(name, Attributes(std::move(items)));
+        break;
+      }
+      case Kind::end:
+        delegate.end(names_[takeNumber(cursor)]);
+        break;
+      case Kind::characters:
+        delegate.characters(take(cursor));
+        break;
+    }
+    return true;
+  }
 
+ private:
+  enum class Kind : char { start, end, characters };
+
+  std::size_t intern(std::string_view name) {
+    const auto [it, added] = nameNumbers_.try_emplace(std::string(name), names_.size());
+    if (added) names_.push_back(it->first);
+    return it->second;
+  }
+  void putNumber(std::size_t value) {
+    while (value >= 0x80) {
+      codes_ += static_cast<char>(0x80 | (value & 0x7F));
+      value >>= 7;
+    }
+    codes_ += static_cast<char>(value);
+  }
+  std::size_t takeNumber(Cursor& cursor) const {
+    std::size_t value = 0;
+    for (int shift = 0;; shift += 7) {
+      const auto byte = static_cast<unsigned char>(codes_[cursor.code++]);
+      value |= static_cast<std::size_t>(byte & 0x7F) << shift;
+      if (byte < 0x80) return value;
+    }
+  }
   void add(std::string_view text) {
-    spans_.push_back({arena_.size(), text.size()});
+    putNumber(text.size());
     arena_ += text;
   }
-  std::string_view view(std::size_t index) const {
-    return std::string_view(arena_).substr(spans_[index].offset, spans_[index].length);
+  std::string_view take(Cursor& cursor) const {
+    const std::size_t length = takeNumber(cursor);
+    const std::string_view text = std::string_view(arena_).substr(cursor.arena, length);
+    cursor.arena += length;
+    return text;
   }
 
   std::string arena_;
-  std::vector<Span> spans_;
-  std::vector<Event> events_;
+  std::string codes_;
+  // Node-based, so that the views in `names_` stay valid as it grows.
+  std::unordered_map<std::string, std::size_t> nameNumbers_;
+  std::vector<std::string_view> names_;
+  int openTexts_ = 0;
 };
 
 // The single expat run: collects stylesheets, records the events, and notes any XML
@@ -209,10 +246,16 @@ struct RecordingPass {
   StyleCollector collector;
   EventRecording recording;
   bool sawPrologMarkup = false;
+  bool sawDefinition = false;
 
   void start(std::string_view name, const XML_Char** atts) {
     collector.start(name, Attributes{});
     recording.start(name, atts);
+    if (!sawDefinition) {
+      const ElementKind kind = elementKind(name);
+      sawDefinition = kind == ElementKind::linearGradient || kind == ElementKind::radialGradient ||
+                      kind == ElementKind::filter;
+    }
   }
   void end(std::string_view name) {
     collector.end(name);
@@ -225,11 +268,15 @@ struct RecordingPass {
   void notePrologMarkup() { sawPrologMarkup = true; }
 };
 
-// Second pass: builds the tree.
+// Second pass: builds the tree. Handed over in order, the root's children are kept one at a
+// time instead (`takeRootChild`) and its definitions come from an earlier definitions-only
+// pass, which reads the definitions wherever they stand and nothing else.
 class Handler {
  public:
-  Handler(std::string_view cssString, const Report& report)
-      : css_(cssString, report), report_(report) {}
+  enum class Mode : std::uint8_t { wholeTree, rootChildren, definitionsOnly };
+
+  Handler(std::string_view cssString, const Report& report, Mode mode = Mode::wholeTree)
+      : css_(cssString, report), report_(report), mode_(mode) {}
 
   void start(std::string_view name, const Attributes& attributes);
   void end(std::string_view name);
@@ -242,6 +289,10 @@ class Handler {
     if (auto* svg = std::get_if<SVG>(&groupStack_.front())) return std::move(*svg);
     return std::nullopt;
   }
+  // The outermost `svg`, once its start tag is read.
+  SVG* root() { return groupStack_.empty() ? nullptr : std::get_if<SVG>(&groupStack_.front()); }
+  // The root's child completed since the last call (`rootChildren` only).
+  std::optional<SVG::GroupItem> takeRootChild() { return std::exchange(rootChild_, std::nullopt); }
 
  private:
   using GroupValue = std::variant<SVG, SVG::Group>;
@@ -253,6 +304,8 @@ class Handler {
 
   const CSS css_;
   const Report& report_;
+  const Mode mode_;
+  std::optional<SVG::GroupItem> rootChild_;
   std::vector<GroupValue> groupStack_;
   std::unordered_set<std::string> usedDefIDs_;
   std::optional<SVG::LinearGradient> linearGradient_;
@@ -267,7 +320,34 @@ using Primitive = SVG::Filter::Primitive;
 using Unmodelled = Primitive::Unmodelled::Kind;
 
 void Handler::start(std::string_view name, const Attributes& attributes) {
-  switch (elementKind(name)) {
+  const ElementKind kind = elementKind(name);
+  if (mode_ == Mode::definitionsOnly) {
+    // Only what places a definition in its `svg`, and the definitions themselves.
+    switch (kind) {
+      case ElementKind::svg:
+        groupStack_.emplace_back(SVG::read(attributes, resolver(attributes), report_));
+        return;
+      case ElementKind::g:
+        groupStack_.emplace_back(SVG::Group{});
+        return;
+      case ElementKind::image:
+        if (filter_) break;
+        return;
+      case ElementKind::text:
+      case ElementKind::circle:
+      case ElementKind::ellipse:
+      case ElementKind::rect:
+      case ElementKind::polygon:
+      case ElementKind::polyline:
+      case ElementKind::line:
+      case ElementKind::path:
+      case ElementKind::other:
+        return;
+      default:
+        break;
+    }
+  }
+  switch (kind) {
     case ElementKind::svg:
       groupStack_.emplace_back(SVG::read(attributes, resolver(attributes), report_));
       break;
@@ -454,8 +534,13 @@ void Handler::end(std::string_view name) {
 }
 
 void Handler::addItem(SVG::GroupItem item) {
+  if (mode_ == Mode::definitionsOnly) return;
   if (groupStack_.empty()) {
     if (report_.enabled()) report_.print({"dropping element, no group:", describe(item)});
+    return;
+  }
+  if (mode_ == Mode::rootChildren && groupStack_.size() == 1) {
+    rootChild_ = std::move(item);
     return;
   }
   std::visit([&](auto& group) { group.children.push_back(std::move(item)); }, groupStack_.back());
@@ -468,6 +553,8 @@ void Handler::addDefinition(SVG::Definition definition) {
   for (auto it = groupStack_.rbegin(); it != groupStack_.rend(); ++it) {
     if (auto* svg = std::get_if<SVG>(&*it)) {
       if (!usedDefIDs_.insert(*id).second) return;  // the first definition of an id wins
+      // The root's definitions were read ahead of its children.
+      if (mode_ == Mode::rootChildren && it + 1 == groupStack_.rend()) return;
       std::string key = *id;
       svg->definitions.push_back({std::move(key), std::move(definition)});
       return;
@@ -507,6 +594,10 @@ bool wrappingKeepsEvents(std::string_view data, const RecordingPass& pass) {
   return plainStart && data[1] != '\0';
 }
 
+Attributes wrapperAttributes() {
+  return Attributes{{"xmlns", svgNamespace}};
+}
+
 // The tree from text read the old way: stylesheets in one expat run, the tree in a second run
 // over the bytes (wrapped when they are a fragment).
 std::optional<SVG> parseTwice(std::string_view data, const std::string& cssString, bool wrap,
@@ -543,13 +634,86 @@ std::optional<SVG> parse(std::string_view data, const ParseOptions& options, con
   }
 
   Handler handler(pass.collector.cssString, report);
-  if (wrap) {
-    const std::string_view xmlns = svgNamespace;
-    handler.start("svg", Attributes{{"xmlns", xmlns}});
-  }
+  if (wrap) handler.start("svg", wrapperAttributes());
   pass.recording.replay(handler);
   if (wrap) handler.end("svg");
   return std::move(handler).result();
+}
+
+struct InOrderReader::State {
+  RecordingPass pass;
+  bool wrap = false;
+  EventRecording::Cursor cursor;
+  std::optional<Handler> handler;
+  // Where the recording cannot serve, the whole tree, whose children are handed out in turn.
+  std::optional<SVG> tree;
+  std::size_t nextTreeChild = 0;
+  std::optional<SVG::GroupItem> current;
+};
+
+InOrderReader::InOrderReader(std::unique_ptr<State> state) : state_(std::move(state)) {}
+InOrderReader::InOrderReader(InOrderReader&&) noexcept = default;
+InOrderReader& InOrderReader::operator=(InOrderReader&&) noexcept = default;
+InOrderReader::~InOrderReader() = default;
+
+std::optional<InOrderReader> InOrderReader::open(std::string_view data, const ParseOptions& options,
+                                                 const Report& report) {
+  auto state = std::make_unique<State>();
+  RecordingPass& pass = state->pass;
+  if (!runPass(data, pass, options, report)) return std::nullopt;
+
+  state->wrap = !pass.collector.hadRootSVG && options.wrapFragments && !data.empty();
+  if (!pass.collector.hadRootSVG && !state->wrap) return std::nullopt;
+  if (state->wrap && !wrappingKeepsEvents(data, pass)) {
+    state->tree = parseTwice(data, pass.collector.cssString, true, options, report);
+    if (!state->tree) return std::nullopt;
+    return InOrderReader(std::move(state));
+  }
+
+  // Children may use definitions that come after them, so those are read first.
+  std::vector<SVG::NamedDefinition> rootDefinitions;
+  if (pass.sawDefinition) {
+    const Report silent;
+    Handler definitions(pass.collector.cssString, silent, Handler::Mode::definitionsOnly);
+    if (state->wrap) definitions.start("svg", wrapperAttributes());
+    pass.recording.replay(definitions);
+    if (SVG* root = definitions.root()) rootDefinitions = std::move(root->definitions);
+  }
+
+  Handler& handler =
+      state->handler.emplace(pass.collector.cssString, report, Handler::Mode::rootChildren);
+  if (state->wrap) {
+    handler.start("svg", wrapperAttributes());
+  } else {
+    // The root's start tag is the first event.
+    pass.recording.replayNext(handler, state->cursor);
+  }
+  SVG* root = handler.root();
+  if (root == nullptr) return std::nullopt;
+  root->definitions = std::move(rootDefinitions);
+  return InOrderReader(std::move(state));
+}
+
+const SVG& InOrderReader::root() const {
+  return state_->tree ? *state_->tree : *state_->handler->root();
+}
+
+const SVG::GroupItem* InOrderReader::next() {
+  State& state = *state_;
+  state.current.reset();
+  if (state.tree) {
+    if (state.nextTreeChild >= state.tree->children.size()) return nullptr;
+    return &state.tree->children[state.nextTreeChild++];
+  }
+  Handler& handler = *state.handler;
+  while (state.pass.recording.replayNext(handler, state.cursor)) {
+    if ((state.current = handler.takeRootChild())) return &*state.current;
+  }
+  if (state.wrap) {
+    handler.end("svg");
+    state.wrap = false;
+  }
+  return nullptr;
 }
 
 }  // namespace SVGParser

@@ -35,15 +35,15 @@ void putHeaderComment(std::string_view svg, bool compilable, Put&& put) {
   put(" * \n */\n");
 }
 
-// The one road of both forms. `put` receives text; `generate` the tree, after the header
-// comment, and adds the defects it wrote. Reports the defects of the whole text as one line.
-// Returns whether the text did not parse.
+// The one road of both forms. `put` receives text; `generate` the document, read in order,
+// after the header comment, and adds the defects it wrote. Reports the defects of the whole
+// text as one line. Returns whether the text did not parse.
 template <class Put, class Generate>
 bool rebuild(std::string_view svg, const SVGFigurerConfiguration& config, CoreS::Logger& log,
              const SVGParser::Report& report, Put&& put, Generate&& generate) {
   log.log("rebuilding SVG ...", unicodeScalarCount(svg));
-  auto tree = SVGParser::parse(svg, report);
-  if (!tree) {
+  auto document = SVGParser::InOrderReader::open(svg, {}, report);
+  if (!document) {
     log.warn("Parsing of SVG failed.");
     if (isBlank(svg)) {
       put(emptySVGText);
@@ -60,12 +60,16 @@ bool rebuild(std::string_view svg, const SVGFigurerConfiguration& config, CoreS:
       defects |= SVGSwiftUIExporter::headerComment;
     }
   }
-  generate(*tree, defects);
+  generate(*document, defects);
   SVGSwiftUIExporter::reportDefects(report, defects);
   return false;
 }
 
-// `owner`, when given, holds the text `svg` views; it is released once the tree and the header
+SVGSwiftUIExporter::ChildSource childrenOf(SVGParser::InOrderReader& document) {
+  return [&document] { return document.next(); };
+}
+
+// `owner`, when given, holds the text `svg` views; it is released once the reader and the header
 // are made, before the conversion reaches its largest state.
 bool streamSwift(std::string_view svg, std::string* owner, const SVGFigurerConfiguration& config,
                  CoreS::Logger& log, const SVGParser::Report& report,
@@ -83,12 +87,15 @@ bool streamSwift(std::string_view svg, std::string* owner, const SVGFigurerConfi
     if (!pending.empty()) sink(pending);
     pending = std::string();
   };
-  const bool failed = rebuild(
-      svg, config, log, report, put, [&](const SVG& tree, SVGSwiftUIExporter::Defects& defects) {
-        flush();
-        if (owner != nullptr) *owner = std::string();
-        SVGSwiftUIExporter::generate(tree, config.exporterConfig(), report, sink, &defects);
-      });
+  const bool failed =
+      rebuild(svg, config, log, report, put,
+              [&](SVGParser::InOrderReader& document, SVGSwiftUIExporter::Defects& defects) {
+                flush();
+                // The reader holds what it still needs of the text.
+                if (owner != nullptr) *owner = std::string();
+                SVGSwiftUIExporter::generate(document.root(), childrenOf(document),
+                                             config.exporterConfig(), report, sink, &defects);
+              });
   flush();
   return failed;
 }
@@ -100,8 +107,9 @@ GeneratedSwift generateSwift(std::string_view svg, const SVGFigurerConfiguration
   GeneratedSwift result;
   result.failed = rebuild(
       svg, config, log, report, [&](std::string_view text) { result.text += text; },
-      [&](const SVG& tree, SVGSwiftUIExporter::Defects& defects) {
-        SVGSwiftUIExporter::generate(tree, config.exporterConfig(), report, result.text, &defects);
+      [&](SVGParser::InOrderReader& document, SVGSwiftUIExporter::Defects& defects) {
+        SVGSwiftUIExporter::generate(document.root(), childrenOf(document), config.exporterConfig(),
+                                     report, result.text, &defects);
       });
   return result;
 }

@@ -1,6 +1,6 @@
-// Writes one SVG tree as SwiftUI source text: converts it to the view model, then prints the
-// model through a CodeGenerationStream. The entry point cannot fail; what cannot be rendered
-// becomes comment lines in the text.
+// Writes one SVG tree as SwiftUI source text: converts it to the view model and prints the
+// model through a CodeGenerationStream, one child of the root at a time. The entry point cannot
+// fail; what cannot be rendered becomes comment lines in the text.
 #pragma once
 
 #include <functional>
@@ -72,4 +72,17 @@ class SVGSwiftUIExporter {
   // never be held whole.
   static void generate(const SVG& svg, const Config& config, const SVGParser::Report& report,
                        const TextSink& sink, Defects* defects = nullptr);
+
+  // Hands over the children of the root one at a time, each valid until the next call, and
+  // nothing after the last.
+  using ChildSource = std::function<const SVG::GroupItem*()>;
+  // The same text for a root whose children come from `children` instead of the root itself,
+  // each converted and written before the next is asked for: neither the tree nor the view
+  // model need ever be whole. The report lines are the same, in the same order.
+  static void generate(const SVG& root, const ChildSource& children, const Config& config,
+                       const SVGParser::Report& report, std::string& text,
+                       Defects* defects = nullptr);
+  static void generate(const SVG& root, const ChildSource& children, const Config& config,
+                       const SVGParser::Report& report, const TextSink& sink,
+                       Defects* defects = nullptr);
 };

@@ -35,7 +35,9 @@ class SVGSwiftUIFigurer {
 
   struct NamedNode {
     std::string typeName;
-    const SVG::GroupItem* node = nullptr;  // valid while the converted tree lives
+    // Valid while the converted tree lives; a child handed over alone lives only for its own
+    // conversion.
+    const SVG::GroupItem* node = nullptr;
   };
   struct ScopedDefinition {
     std::string id;  // qualified: "Owner.property"
@@ -59,6 +61,13 @@ class SVGSwiftUIFigurer {
   const SVG::PresentationAttributes& currentAttributes() const;
 
   ContainerViewType convert(const SVG& svg, std::string_view name);
+  // The same in steps, for children handed over one at a time: the container without its
+  // children (the element's state stays in force), `convertChild` for each child, then the
+  // rest of the container.
+  ContainerViewType beginSVG(const SVG& svg, std::string_view name);
+  void endSVG(const SVG& svg, ContainerViewType& container);
+  // One child's view, if it has one, appended to `into`.
+  void convertChild(const SVG::GroupItem& child, std::vector<SwiftUIModel::Subview>& into);
   ContainerViewType convert(const SVG::Group& group);
   SwiftUIModel::PathViewType convert(const SVG::Path& path);
   SwiftUIModel::PathViewType convert(const SVG::Line& line);
@@ -108,8 +117,6 @@ class SVGSwiftUIFigurer {
 
  private:
   std::vector<SwiftUIModel::Subview> convertChildren(const std::vector<SVG::GroupItem>& children);
-  void convertChild(const SVG::GroupItem& child, std::vector<SwiftUIModel::Subview>& into);
-  void walkChildrenWithSize(const SVG& svg, std::optional<CGSize> size, ContainerViewType& into);
   SwiftUIModel::ShapeDrawing makeDrawing(bool transformInDrawing) const;
   SwiftUIModel::PathViewType makePathView(const std::optional<std::string>& id,
                                           std::vector<SwiftUIModel::PathCommand> path);

@@ -8,6 +8,7 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <string_view>
 
@@ -38,5 +39,28 @@ std::optional<SVG> parse(std::string_view data, const ParseOptions& options, con
 inline std::optional<SVG> parse(std::string_view text, const Report& report) {
   return parse(text, ParseOptions{}, report);
 }
+
+// The same document handed over in order: the root (its attributes and definitions; its
+// children are not read from it), then each child of the root as its end tag is reached, so that a
+// writer need never hold the whole tree. The children and the report lines are those of `parse`, in
+// the same order. `open` reads the XML and the stylesheets; `data` is not read after it returns,
+// while `report` must outlive the reader.
+class InOrderReader {
+ public:
+  static std::optional<InOrderReader> open(std::string_view data, const ParseOptions& options,
+                                           const Report& report);
+  InOrderReader(InOrderReader&&) noexcept;
+  InOrderReader& operator=(InOrderReader&&) noexcept;
+  ~InOrderReader();
+
+  const SVG& root() const;
+  // The next child of the root, valid until the next call; nothing after the last.
+  const SVG::GroupItem* next();
+
+ private:
+  struct State;
+  explicit InOrderReader(std::unique_ptr<State> state);
+  std::unique_ptr<State> state_;
+};
 
 }  // namespace SVGParser
