@@ -4,10 +4,13 @@
 // second time instead.
 #include <expat.h>
 
+#include <algorithm>
 #include <climits>
 #include <cstdint>
+#include <deque>
 #include <limits>
 #include <memory>
+#include <random>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
@@ -26,6 +29,36 @@ struct ExpatDeleter {
 };
 using ExpatParser = std::unique_ptr<std::remove_pointer_t<XML_Parser>, ExpatDeleter>;
 
+// Creating and freeing an expat parser costs as much as reading a small icon, so each thread
+// keeps one for the next document. A run takes it (a run within a run makes its own) and gives
+// it back only after small documents, so that a large one's buffers are not kept.
+class ParserCache {
+ public:
+  static ExpatParser take() {
+    if (ExpatParser parser = std::move(cached());
+        parser && XML_ParserReset(parser.get(), nullptr)) {
+      // A reset parser would ask the kernel for a fresh hash salt on every document; one
+      // seeded generator per thread keeps the salts unpredictable without that call.
+      thread_local std::mt19937_64 salts{std::random_device{}()};
+      unsigned long salt = 0;
+      while (salt == 0) salt = static_cast<unsigned long>(salts());
+      XML_SetHashSalt(parser.get(), salt);
+      return parser;
+    }
+    return ExpatParser(XML_ParserCreate(nullptr));
+  }
+  static void giveBack(ExpatParser parser, std::size_t bytesRead) {
+    if (bytesRead <= keptUpTo) cached() = std::move(parser);
+  }
+
+ private:
+  static constexpr std::size_t keptUpTo = 256 * 1024;
+  static ExpatParser& cached() {
+    thread_local ExpatParser parser;
+    return parser;
+  }
+};
+
 // Adapts expat's callbacks to a delegate with start, end and characters. CDATA sections
 // reach neither, and an element beyond the depth limit stops the run.
 template <class Delegate>
@@ -35,9 +68,19 @@ class ExpatRun {
       : delegate_(delegate), maximumDepth_(maximumDepth) {}
 
   bool run(std::string_view data, std::size_t chunkSize) {
-    ExpatParser parser(XML_ParserCreate(nullptr));
+    ExpatParser parser = ParserCache::take();
     if (!parser) return false;
     parser_ = parser.get();
+    const bool ok = parse(data, chunkSize);
+    parser_ = nullptr;
+    ParserCache::giveBack(std::move(parser), data.size());
+    return ok;
+  }
+
+  bool tooDeep() const { return tooDeep_; }
+
+ private:
+  bool parse(std::string_view data, std::size_t chunkSize) {
     XML_SetUserData(parser_, this);
     XML_SetElementHandler(parser_, &ExpatRun::onStart, &ExpatRun::onEnd);
     XML_SetCharacterDataHandler(parser_, &ExpatRun::onCharacters);
@@ -62,9 +105,6 @@ class ExpatRun {
     return !tooDeep_;
   }
 
-  bool tooDeep() const { return tooDeep_; }
-
- private:
   static void XMLCALL onStart(void* user, const XML_Char* name, const XML_Char** atts) {
     auto& self = *static_cast<ExpatRun*>(user);
     if (++self.depth_ > self.maximumDepth_) {
@@ -201,10 +241,22 @@ class EventRecording {
  private:
   enum class Kind : char { start, end, characters };
 
+  // A document uses a few dozen names, so a scan of the first ones beats hashing; a document
+  // of many more distinct names goes on through the map.
   std::size_t intern(std::string_view name) {
-    const auto [it, added] = nameNumbers_.try_emplace(std::string(name), names_.size());
-    if (added) names_.push_back(it->first);
-    return it->second;
+    const std::size_t scanned = std::min(names_.size(), scannedNames);
+    for (std::size_t i = 0; i < scanned; ++i) {
+      if (names_[i] == name) return i;
+    }
+    if (names_.size() < scannedNames) return addName(name);
+    if (const auto it = nameNumbers_.find(name); it != nameNumbers_.end()) return it->second;
+    const std::size_t number = addName(name);
+    nameNumbers_.emplace(names_.back(), number);
+    return number;
+  }
+  std::size_t addName(std::string_view name) {
+    names_.push_back(storedNames_.emplace_back(name));
+    return names_.size() - 1;
   }
   void putNumber(std::size_t value) {
     while (value >= 0x80) {
@@ -232,11 +284,13 @@ class EventRecording {
     return text;
   }
 
+  static constexpr std::size_t scannedNames = 48;
+
   std::string arena_;
   std::string codes_;
-  // Node-based, so that the views in `names_` stay valid as it grows.
-  std::unordered_map<std::string, std::size_t> nameNumbers_;
+  std::deque<std::string> storedNames_;  // a deque, so that views of its strings stay valid
   std::vector<std::string_view> names_;
+  std::unordered_map<std::string_view, std::size_t> nameNumbers_;  // beyond the scanned ones
   int openTexts_ = 0;
 };
 
