@@ -1,12 +1,20 @@
 #!/usr/bin/env bash
-# Wall time and peak memory of `svgfigurer convert` on one large path-heavy document, the way a
-# user runs it: `bench/memory.sh [MEGABYTES]` (default 50). The document is the benchmarks'
-# synthetic one, so the figures compare with BM_EndToEnd_50MB_Streamed and BM_ExpatOnly_50MB.
+# Wall time and peak memory of `svgfigurer convert` on one large document, the way a user runs
+# it: `bench/memory.sh [MEGABYTES]` (default 50) for the path-heavy one, `bench/memory.sh --rects
+# [COUNT]` (default 200000) for the shape-heavy one. They are the benchmarks' synthetic
+# documents, so the figures compare with BM_EndToEnd_50MB_Streamed and BM_EndToEnd_Rects200k.
 # Builds nothing: run `make build` first (or set SVGFIGURER_BUILD to another build folder).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-megabytes="${1:-50}"
+kind=()
+if [[ "${1:-}" == "--rects" ]]; then
+  kind=(--rects)
+  shift
+  size="${1:-200000}"
+else
+  size="${1:-50}"
+fi
 build="${SVGFIGURER_BUILD:-build/release}"
 cli="${build}/src/cli/svgfigurer"
 synthetic="${build}/bench/svgfigurer_synthetic"
@@ -23,7 +31,7 @@ fi
 
 work="$(mktemp -d)"
 trap 'rm -rf "${work}"' EXIT
-"${synthetic}" "${megabytes}" > "${work}/input.svg"
+"${synthetic}" "${kind[@]}" "${size}" > "${work}/input.svg"
 input_bytes="$(stat -c %s "${work}/input.svg")"
 
 /usr/bin/time -f '%e %M' -o "${work}/time" "${cli}" convert --fresh --no-color \

@@ -1,5 +1,7 @@
 // The inside of a container's view struct: statics, definitions, nested types, the resizing
 // support and the body, with the modifiers and position lines every view shares.
+#include <algorithm>
+#include <climits>
 #include <cmath>
 #include <memory>
 #include <numbers>
@@ -79,19 +81,29 @@ void appendChild(CodeGenerationStream& s, const ChildCalls::Call& child) {
   appendCall(s, child.typeName, child.resizable, child.origin, child.intrinsicSize);
 }
 
+template <class Visit>
+void forEachChild(const std::vector<Subview>& children, Visit&& visit) {
+  for (const auto& child : children) visit(child);
+}
+template <class Visit>
+void forEachChild(const ChildCalls& children, Visit&& visit) {
+  children.forEach(visit);
+}
+
 // The children, then the container's modifiers and `after`'s lines: one level in after a
 // single view, at the block's own level after a "ZStack" block.
 template <class Children, class After>
 void appendContent(CodeGenerationStream& s, const ContainerViewType& c, const Children& children,
                    After&& after) {
+  const auto appendAll = [&] {
+    forEachChild(children, [&](const auto& child) { appendChild(s, child); });
+  };
   if (children.empty()) {
     s.appendLine("EmptyView()", std::nullopt, "Group w/o content");
   } else if (children.size() == 1) {
-    appendChild(s, children.front());
+    appendAll();
   } else {
-    s.appendBlock("ZStack(alignment: .topLeading)", std::nullopt, [&] {
-      for (std::size_t i = 0; i < children.size(); ++i) appendChild(s, children[i]);
-    });
+    s.appendBlock("ZStack(alignment: .topLeading)", std::nullopt, appendAll);
   }
   s.indented(children.size() <= 1, [&] {
     appendViewModifiers(s, c.filterModifier, c.transform, false);
@@ -266,10 +278,9 @@ void appendMultilineSteps(CodeGenerationStream& s, const std::vector<std::string
 }
 
 void ChildCalls::add(Subview&& child) {
-  Entry entry{names_.size(), 0, 0, 0, 0, 0, 0};
+  Entry entry{0, 0, 0, 0, 0, 0};
   if (auto* text = std::get_if<SwiftUIModel::Text>(&child.value)) {
     entry.flags = isText;
-    entry.text = texts_.size();
     texts_.push_back(std::move(*text));
     entries_.push_back(entry);
     return;
@@ -278,8 +289,14 @@ void ChildCalls::add(Subview&& child) {
       [&](const auto& view) {
         using T = std::decay_t<decltype(view)>;
         if constexpr (!std::is_same_v<T, SwiftUIModel::Text>) {
-          names_ += view.typeName;
-          entry.nameEnd = names_.size();
+          // Generated names are short; a longer one (from an id) is cut to what the body can
+          // name, which no real document comes near.
+          const std::string_view name = std::string_view(view.typeName).substr(0, UINT32_MAX);
+          if (names_.empty() || names_.back().size() + name.size() > names_.back().capacity()) {
+            names_.emplace_back().reserve(std::max(nameChunk, name.size()));
+          }
+          names_.back() += name;
+          entry.nameLength = static_cast<std::uint32_t>(name.size());
           if (view.origin) {
             entry.flags |= hasOrigin;
             entry.x = view.origin->x;
@@ -297,17 +314,6 @@ void ChildCalls::add(Subview&& child) {
       },
       child.value);
   entries_.push_back(entry);
-}
-
-ChildCalls::Call ChildCalls::operator[](std::size_t index) const {
-  const Entry& entry = entries_[index];
-  if ((entry.flags & isText) != 0) return {{}, {}, {}, false, &texts_[entry.text]};
-  const std::size_t start = index == 0 ? 0 : entries_[index - 1].nameEnd;
-  Call call{std::string_view(names_).substr(start, entry.nameEnd - start), {}, {}, false, nullptr};
-  if ((entry.flags & hasOrigin) != 0) call.origin = CGPoint{entry.x, entry.y};
-  if ((entry.flags & hasSize) != 0) call.intrinsicSize = CGSize{entry.width, entry.height};
-  call.resizable = (entry.flags & resizable) != 0;
-  return call;
 }
 
 void appendContainerHead(CodeGenerationStream& s, const ContainerViewType& c,

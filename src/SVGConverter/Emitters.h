@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -30,7 +31,8 @@ void appendNestedViewsComment(CodeGenerationStream& s);
 void appendNestedType(CodeGenerationStream& s, const SwiftUIModel::Subview& child,
                       const SVGParser::Report& report);
 // What a container's body writes of each child: the call of its view with the position lines,
-// or, for a text, the text itself. Compact, for roots of many thousands of children.
+// or, for a text, the text itself. Compact and never copied as it grows, for roots of hundreds
+// of thousands of children.
 class ChildCalls {
  public:
   struct Call {
@@ -44,21 +46,48 @@ class ChildCalls {
   void add(SwiftUIModel::Subview&& child);
   std::size_t size() const { return entries_.size(); }
   bool empty() const { return entries_.empty(); }
-  Call operator[](std::size_t index) const;
-  Call front() const { return (*this)[0]; }
+
+  // Each call in order.
+  template <class Visit>
+  void forEach(Visit&& visit) const {
+    std::size_t chunk = 0, offset = 0, text = 0;
+    for (const Entry& entry : entries_) {
+      if ((entry.flags & isText) != 0) {
+        visit(Call{{}, {}, {}, false, &texts_[text++]});
+        continue;
+      }
+      if (offset + entry.nameLength > names_[chunk].size()) {
+        ++chunk;
+        offset = 0;
+      }
+      Call call{std::string_view(names_[chunk]).substr(offset, entry.nameLength),
+                {},
+                {},
+                (entry.flags & resizable) != 0,
+                nullptr};
+      offset += entry.nameLength;
+      if ((entry.flags & hasOrigin) != 0) call.origin = CGPoint{entry.x, entry.y};
+      if ((entry.flags & hasSize) != 0) call.intrinsicSize = CGSize{entry.width, entry.height};
+      visit(call);
+    }
+  }
 
  private:
   enum Flag : std::uint8_t { hasOrigin = 1, hasSize = 2, resizable = 4, isText = 8 };
   struct Entry {
-    std::size_t nameEnd;  // in `names_`; the name starts where the previous one ends
     double x, y, width, height;
-    std::size_t text;  // in `texts_`
+    std::uint32_t nameLength;
     std::uint8_t flags;
   };
-  std::string names_;
-  std::vector<Entry> entries_;
+  static constexpr std::size_t nameChunk = 64 * 1024;
+
+  std::deque<Entry> entries_;
+  // The names one after the other, in chunks that are filled and never moved: a name that
+  // does not fit begins the next chunk.
+  std::vector<std::string> names_;
   std::vector<SwiftUIModel::Text> texts_;
 };
+
 void appendMembersAndBody(CodeGenerationStream& s, const ContainerViewType& container,
                           const ChildCalls& children);
 // "static let intrinsicSize" and "static let origin"; whether anything was written.

@@ -83,12 +83,31 @@ std::string changeCase(std::string_view character, NameCase nameCase) {
 
 }  // namespace
 
+bool IDPool::isTaken(std::string_view name) const {
+  if (name.size() > prefix.size() && name.substr(0, prefix.size()) == prefix) {
+    // A number as the pool writes it: no sign, no leading zero.
+    const std::string_view digits = name.substr(prefix.size());
+    std::int64_t value = 0;
+    bool numbered = digits.front() != '0' && digits.size() <= 18;
+    for (std::size_t i = 0; numbered && i < digits.size(); ++i) {
+      numbered = digits[i] >= '0' && digits[i] <= '9';
+      value = value * 10 + (digits[i] - '0');
+    }
+    if (numbered && value <= counter) return true;
+  }
+  return usedIDs.find(std::string(name)) != usedIDs.end();
+}
+
 std::string IDPool::uniqueID(const std::optional<std::string>& wanted) {
-  if (wanted && usedIDs.insert(*wanted).second) return *wanted;
+  if (wanted && !isTaken(*wanted)) {
+    usedIDs.insert(*wanted);
+    return *wanted;
+  }
   while (true) {
     ++counter;
     auto candidate = prefix + std::to_string(counter);
-    if (usedIDs.insert(candidate).second) return candidate;
+    // Above every number tried before, so taken only if it was wanted by name.
+    if (usedIDs.find(candidate) == usedIDs.end()) return candidate;
     if (counter > lastNumberedCandidate) return randomUUID();
   }
 }

@@ -11,6 +11,9 @@ namespace SwiftUIModel {
 
 struct IDPool {
   std::string prefix;
+  // The names taken besides the numbered ones: every prefix-and-number name up to `counter`
+  // has been tried and is taken, so those are not stored (a document of 200,000 shapes would
+  // otherwise hold 200,000 names).
   std::unordered_set<std::string> usedIDs;
   std::int64_t counter = 0;  // the number last tried
 
@@ -22,6 +25,7 @@ struct IDPool {
   // Once the numbers pass 999 and a candidate is taken, a random UUID text is handed out
   // (and not recorded).
   std::string uniqueID(const std::optional<std::string>& wanted);
+  bool isTaken(std::string_view name) const;
 };
 
 enum class NameCase : std::uint8_t { type, property };
