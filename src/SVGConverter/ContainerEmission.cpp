@@ -22,25 +22,50 @@ bool hasResizable(const ContainerViewType& c) {
   return c.resizable.width.has_value() || c.resizable.height.has_value();
 }
 
+// Written for every child of every container, often twice: the lines are built in one buffer.
 void appendPositionLines(CodeGenerationStream& s, const std::optional<CGPoint>& origin,
                          const std::optional<CGSize>& size) {
+  std::string line;
   const auto number = [&](const std::optional<double>& v, std::string_view unknown) {
-    return v ? s.numberString(*v) : std::string(unknown);
+    if (v) {
+      s.appendNumber(line, *v);
+    } else {
+      line += unknown;
+    }
   };
   std::optional<double> x, y, w, h;
   if (origin) x = origin->x, y = origin->y;
   if (size) w = size->width, h = size->height;
   if (w || h) {
-    s.appendLine(".frame(width: " + number(w, "nil") + ", height: " + number(h, "nil") +
-                 ", alignment: .topLeading)");
+    line = ".frame(width: ";
+    number(w, "nil");
+    line += ", height: ";
+    number(h, "nil");
+    line += ", alignment: .topLeading)";
+    s.appendLine(line);
   }
   if (!s.config().positionUsingPadding && (x || y)) {
     // An unknown coordinate stands at the parent's edge.
-    s.appendLine(".position(x: " + number(x, "0") + ", y: " + number(y, "0") + ")");
+    line = ".position(x: ";
+    number(x, "0");
+    line += ", y: ";
+    number(y, "0");
+    line += ')';
+    s.appendLine(line);
     return;
   }
-  if (x && *x != 0) s.appendLine(".padding(.leading, " + s.numberString(*x) + ")");
-  if (y && *y != 0) s.appendLine(".padding(.top, " + s.numberString(*y) + ")");
+  if (x && *x != 0) {
+    line = ".padding(.leading, ";
+    s.appendNumber(line, *x);
+    line += ')';
+    s.appendLine(line);
+  }
+  if (y && *y != 0) {
+    line = ".padding(.top, ";
+    s.appendNumber(line, *y);
+    line += ')';
+    s.appendLine(line);
+  }
 }
 
 void appendCall(CodeGenerationStream& s, std::string_view typeName, bool resizable,
@@ -228,7 +253,9 @@ bool appendStatics(CodeGenerationStream& s, const std::optional<CGPoint>& origin
   if (!forced && !s.config().frameAsProperty) return false;
   if (size) {
     s.appendBlankLine();
-    s.appendLine("static let intrinsicSize = " + sizeLiteral(s, *size, false));
+    std::string line = "static let intrinsicSize = ";
+    line += sizeLiteral(s, *size, false);
+    s.appendLine(line);
   } else if (origin) {
     s.appendBlankLine();
   }

@@ -45,8 +45,12 @@ bool writePointLiteral(char*& cursor, const CodeGenerationStream& s, CGPoint p, 
 }
 
 std::string sizeLiteral(const CodeGenerationStream& s, CGSize size, bool preferInit) {
-  return std::string(preferInit ? ".init" : "CGSize") + "(width: " + s.numberString(size.width) +
-         ", height: " + s.numberString(size.height) + ")";
+  std::string text = preferInit ? ".init(width: " : "CGSize(width: ";
+  s.appendNumber(text, size.width);
+  text += ", height: ";
+  s.appendNumber(text, size.height);
+  text += ')';
+  return text;
 }
 
 std::string rectLiteral(const CodeGenerationStream& s, const CGRect& r, bool preferInit) {
