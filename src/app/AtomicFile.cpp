@@ -33,6 +33,19 @@ bool writeAll(int fd, std::string_view bytes) {
 
 std::optional<std::string> writeFileAtomically(const std::filesystem::path& path,
                                                std::string_view bytes, FlushToDisk flush) {
+  // A device or a pipe (/dev/null, /dev/stdout, a FIFO) is written to, never replaced: the
+  // rename would put a plain file where the device node was.
+  struct stat target {};
+  const bool exists = ::stat(path.c_str(), &target) == 0;
+  if (exists && !S_ISREG(target.st_mode) && !S_ISDIR(target.st_mode)) {
+    const int fd = ::open(path.c_str(), O_WRONLY | O_TRUNC | O_CLOEXEC);
+    if (fd < 0) return reason("cannot open " + path.string(), errno);
+    const bool written = writeAll(fd, bytes);
+    const int error = errno;
+    ::close(fd);
+    if (!written) return reason("cannot write " + path.string(), error);
+    return std::nullopt;
+  }
   // mkstemp keeps the temporary name unique among concurrent writers of the same target.
   std::string pattern = path.string() + ".tmp-XXXXXX";
   std::vector<char> name(pattern.begin(), pattern.end());
@@ -53,8 +66,7 @@ std::optional<std::string> writeFileAtomically(const std::filesystem::path& path
   }
   // mkstemp creates the file readable by its owner only: keep the mode of the file being
   // replaced, or give a new file the usual one.
-  struct stat existing {};
-  ::fchmod(fd, ::stat(path.c_str(), &existing) == 0 ? (existing.st_mode & 07777) : 0644);
+  ::fchmod(fd, exists ? (target.st_mode & 07777) : 0644);
   if (::close(fd) != 0) {
     const int error = errno;
     ::unlink(temporary.c_str());
