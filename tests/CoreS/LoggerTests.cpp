@@ -28,15 +28,16 @@ struct ConsoleFixture {
   std::string out, err;
   Console2 console;
   explicit ConsoleFixture(LogLevel level)
-      : console(std::make_unique<RecordingStream>(out), std::make_unique<RecordingStream>(err), level) {}
+      : console(std::make_unique<RecordingStream>(out), std::make_unique<RecordingStream>(err),
+                level) {}
 };
 
 TEST(LogLevelTest, ReadsLevelsAsTheEnvironmentSpellsThem) {
   const std::pair<const char*, LogLevel> rows[] = {
-      {"", LogLevel::error},          {"error", LogLevel::error},   {"ERROR", LogLevel::error},
-      {"warn", LogLevel::warn},       {"WARNING", LogLevel::warn},  {"information", LogLevel::info},
-      {"info", LogLevel::info},       {"trace", LogLevel::trace},   {"tracing", LogLevel::error},
-      {"LOG", LogLevel::log},         {"logging", LogLevel::error}, {"errors", LogLevel::error},
+      {"", LogLevel::error},    {"error", LogLevel::error},   {"ERROR", LogLevel::error},
+      {"warn", LogLevel::warn}, {"WARNING", LogLevel::warn},  {"information", LogLevel::info},
+      {"info", LogLevel::info}, {"trace", LogLevel::trace},   {"tracing", LogLevel::error},
+      {"LOG", LogLevel::log},   {"logging", LogLevel::error}, {"errors", LogLevel::error},
   };
   for (const auto& [text, level] : rows) EXPECT_EQ(parseLogLevel(text), level) << text;
 }
@@ -71,14 +72,9 @@ TEST(Console2Test, WritesValuesAfterOneBlankEachWithNilForAbsent) {
   const std::optional<int> absent;
   const std::optional<std::string> present = "x";
   f.console.log("rebuilding SVG ...", 1, absent, present, std::string("s"), 2.5, true);
-  EXPECT_EQ(f.out, "rebuilding SVG ... 1 <nil> x s 2.5 true\n");
-}
-
-TEST(Console2Test, LogsAnOptionalObjectAlone) {
-  ConsoleFixture f(LogLevel::log);
-  f.console.log(std::optional<int>(42));
+  f.console.log(std::optional<int>(42));  // an optional object alone
   f.console.log(std::optional<int>());
-  EXPECT_EQ(f.out, "42\n\n");
+  EXPECT_EQ(f.out, "rebuilding SVG ... 1 <nil> x s 2.5 true\n42\n\n");
 }
 
 TEST(Console2Test, FilteredCallsNeverRunTheProducer) {
@@ -99,9 +95,10 @@ TEST(Console2Test, FilteredCallsNeverRunTheProducer) {
 
 TEST(Console2Test, AFailedWriteIsAnnouncedAndLoggingGoesOn) {
   std::string unused;
-  Console2 console(std::make_unique<RecordingStream>(unused, WritableByteStreamType::Error::Closed),
-                   std::make_unique<RecordingStream>(unused, WritableByteStreamType::Error::WriteFailed),
-                   LogLevel::log);
+  Console2 console(
+      std::make_unique<RecordingStream>(unused, WritableByteStreamType::Error::Closed),
+      std::make_unique<RecordingStream>(unused, WritableByteStreamType::Error::WriteFailed),
+      LogLevel::log);
   testing::internal::CaptureStdout();
   console.log("lost");
   console.error("also lost");
@@ -114,11 +111,14 @@ TEST(FileOutputStreamTest, AClosedHandleRefusesWrites) {
   EXPECT_EQ(stream.write({"x"}), WritableByteStreamType::Error::Closed);
 }
 
-TEST(ConsoleDescriptionTest, ShowsTheStderrLevelOnlyWhenItDiffers) {
+// The console shows its standard error level only when it differs; a module shows its parent.
+TEST(DescriptionTest, NamesTheLevels) {
   ConsoleFixture quiet(LogLevel::error);
   EXPECT_EQ(quiet.console.description(), "<ConsoleLog: error>");
   ConsoleFixture loud(LogLevel::trace);
   EXPECT_EQ(loud.console.description(), "<ConsoleLog: trace error>");
+  EXPECT_EQ(ModuleLogger(quiet.console, "Foo", LogLevel::info).description(),
+            "<ModLog[Foo]: info parent<ConsoleLog: error>>");
 }
 
 class ModuleLoggerTest : public testing::Test {
@@ -149,29 +149,16 @@ TEST_F(ModuleLoggerTest, NothingPassesUnlessBothLevelsAllowIt) {
   EXPECT_EQ(f.out + f.err, "");
 }
 
-TEST_F(ModuleLoggerTest, ModuleErrorsArriveUnprefixedOnStandardOutput) {
-  ConsoleFixture f(LogLevel::log);
-  ModuleLogger module(f.console, "Foo", LogLevel::log);
-  module.error("broken", 7);
-  const std::size_t longest = longestModuleNameLength();
-  const std::string padding(longest > 3 ? longest - 3 : 0, ' ');
-  EXPECT_EQ(f.out, "Foo: " + padding + "broken 7\n");
-  EXPECT_EQ(f.err, "");
-}
-
+// Module errors arrive as plain lines on standard output, their prefixes lined up with the
+// widest registered name.
 TEST_F(ModuleLoggerTest, PrefixesLineUpWithTheWidestRegisteredName) {
   moduleLogger("AVeryLongModuleNameForAlignment");
   ConsoleFixture f(LogLevel::log);
   ModuleLogger module(f.console, "Foo", LogLevel::log);
-  module.log("m");
-  EXPECT_EQ(f.out, "Foo: " + std::string(longestModuleNameLength() - 3, ' ') + "m\n");
+  module.error("broken", 7);
+  EXPECT_EQ(f.out, "Foo: " + std::string(longestModuleNameLength() - 3, ' ') + "broken 7\n");
+  EXPECT_EQ(f.err, "");
   EXPECT_GE(longestModuleNameLength(), std::string("AVeryLongModuleNameForAlignment").size());
-}
-
-TEST_F(ModuleLoggerTest, DescribesItselfWithItsParent) {
-  ConsoleFixture f(LogLevel::error);
-  EXPECT_EQ(ModuleLogger(f.console, "Foo", LogLevel::info).description(),
-            "<ModLog[Foo]: info parent<ConsoleLog: error>>");
 }
 
 TEST(ModuleRegistryTest, ConcurrentFirstRequestsShareOneLogger) {

@@ -6,23 +6,16 @@
 // built tables are first built under contention too.
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <barrier>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <functional>
-#include <sstream>
 #include <string>
 #include <thread>
 #include <vector>
 
 #include "SVGConverter/SVGSwiftUIExporter.h"
 #include "SVGParser/SVGParser.h"
+#include "support/GoldenFiles.h"
 
 namespace {
-
-namespace fs = std::filesystem;
 
 constexpr int threadCount = 8;
 constexpr int rounds = 6;
@@ -51,13 +44,6 @@ Outcome run(const Job& job) {
   return outcome;
 }
 
-fs::path goldenDirectory() {
-  if (const char* root = std::getenv("SVGFIGURER_SOURCE_DIR")) {
-    return fs::path(root) / "tests/golden";
-  }
-  return fs::path("golden");
-}
-
 // Settings that move every number through other digit counts and pick the other emitters.
 SVGSwiftUIExporter::Config otherConfig() {
   SVGSwiftUIExporter::Config config;
@@ -71,57 +57,14 @@ SVGSwiftUIExporter::Config otherConfig() {
   return config;
 }
 
-// Documents beyond the recorded cases: numbers only the slow formatting path can print, deep
-// nesting, a stylesheet, report lines, and text the reader refuses.
-std::vector<std::pair<std::string, std::string>> generatedDocuments() {
-  std::vector<std::pair<std::string, std::string>> documents;
-  documents.emplace_back("extreme_numbers",
-                         "<svg width='1e21' height='0.000000123'>"
-                         "<path d='M1e20 -3.5e-9 L123456789012.987654321 7 C1e300 2 3 4 5 6 Z'"
-                         " stroke='red' stroke-width='1e-320'/>"
-                         "<rect x='-1e308' y='NaN' width='Infinity' height='98765.4321'/></svg>");
-  std::string nested = "<svg>";
-  for (int i = 0; i < 60; ++i) {
-    nested += "<g transform='rotate(" + std::to_string(i * 7) + ") translate(" + std::to_string(i) +
-              ".25 3)' opacity='0.9'>";
-  }
-  nested += "<circle cx='1' cy='2' r='3' fill='#0a0b0c'/>";
-  for (int i = 0; i < 60; ++i) nested += "</g>";
-  nested += "</svg>";
-  documents.emplace_back("nested_groups", nested);
-  std::string styled = "<svg viewBox='0 0 100 100'><style>";
-  for (int i = 0; i < 40; ++i) {
-    styled += ".c" + std::to_string(i) + "{fill:rgb(" + std::to_string(i * 6) + ",20,30);" +
-              "stroke-width:" + std::to_string(i) + ".5}";
-  }
-  styled += "</style>";
-  for (int i = 0; i < 40; ++i) {
-    styled += "<ellipse class='c" + std::to_string(i) + "' cx='" + std::to_string(i) +
-              "' cy='5' rx='2' ry='3'/>";
-  }
-  styled += "<text x='3' y='4'>Hello <tspan font-weight='bold'>world</tspan></text></svg>";
-  documents.emplace_back("stylesheet", styled);
-  documents.emplace_back("reports",
-                         "<svg><mask id='m'/><use href='#m'/><path d='M 0 0 L 1 x'/>"
-                         "<rect fill='rgb(1,2)' width='3' height='4'/>"
-                         "<circle fill='url(#missing)' r='2'/></svg>");
-  documents.emplace_back("fragment", "<polygon points='0,0 10,0 5,8.5'/>");
-  documents.emplace_back("unparsable", "<svg><g></svg>");
-  return documents;
-}
-
+// Every recorded case (the threads_* ones hold extreme numbers, deep nesting, a stylesheet
+// and report lines) and one text the reader refuses, each with two sets of settings.
 std::vector<Job> jobs() {
-  std::vector<std::pair<std::string, std::string>> documents;
-  std::error_code error;
-  for (const auto& entry : fs::directory_iterator(goldenDirectory(), error)) {
-    if (entry.path().extension() != ".svg") continue;
-    std::ifstream in(entry.path(), std::ios::binary);
-    std::stringstream text;
-    text << in.rdbuf();
-    documents.emplace_back(entry.path().stem().string(), text.str());
+  const auto directory = golden::directory("golden");
+  std::vector<std::pair<std::string, std::string>> documents{{"unparsable", "<svg><g></svg>"}};
+  for (const auto& name : golden::cases(directory)) {
+    documents.emplace_back(name, golden::read(directory / (name + ".svg")));
   }
-  for (auto& document : generatedDocuments()) documents.push_back(std::move(document));
-
   std::vector<Job> all;
   for (const auto& [name, svg] : documents) {
     all.push_back({name + "/default", svg, {}});
@@ -135,19 +78,14 @@ std::vector<Job> jobs() {
 // tables are used at the same moment.
 enum class Schedule { staggered, lockstep };
 
-struct ScheduleCase {
-  const char* name;
-  Schedule schedule;
-};
-
-class ConcurrencyTest : public testing::TestWithParam<ScheduleCase> {};
+class ConcurrencyTest : public testing::TestWithParam<Schedule> {};
 
 TEST_P(ConcurrencyTest, EveryThreadGetsTheSingleThreadedResult) {
   const std::vector<Job> all = jobs();
-  ASSERT_GE(all.size(), 2 * generatedDocuments().size() + 2) << "no recorded cases found";
+  ASSERT_GE(all.size(), 12u) << "no recorded cases found";
 
   // results[thread][round * jobs + job]
-  const bool lockstep = GetParam().schedule == Schedule::lockstep;
+  const bool lockstep = GetParam() == Schedule::lockstep;
   std::vector<std::vector<Outcome>> results(threadCount);
   std::barrier sync(threadCount);
   std::vector<std::thread> threads;
@@ -187,10 +125,9 @@ TEST_P(ConcurrencyTest, EveryThreadGetsTheSingleThreadedResult) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Schedules, ConcurrencyTest,
-                         testing::Values(ScheduleCase{"staggered", Schedule::staggered},
-                                         ScheduleCase{"lockstep", Schedule::lockstep}),
-                         [](const testing::TestParamInfo<ScheduleCase>& info) {
-                           return std::string(info.param.name);
+                         testing::Values(Schedule::staggered, Schedule::lockstep),
+                         [](const testing::TestParamInfo<Schedule>& info) {
+                           return info.param == Schedule::lockstep ? "lockstep" : "staggered";
                          });
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <optional>
 #include <regex>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "SVGConverter/IDPool.h"
@@ -14,33 +15,22 @@ using SwiftUIModel::NameCase;
 
 namespace {
 
-struct PoolRow {
-  const char* label;
-  std::vector<std::optional<std::string>> wanted;
-  std::vector<std::string> expected;
-};
-
-class IDPoolSequence : public testing::TestWithParam<PoolRow> {};
-
-TEST_P(IDPoolSequence, HandsOutNamesInOrder) {
-  IDPool pool("Group");
-  std::vector<std::string> names;
-  for (const auto& wanted : GetParam().wanted) names.push_back(pool.uniqueID(wanted));
-  EXPECT_EQ(names, GetParam().expected);
+TEST(IDPool, HandsOutNamesInOrder) {
+  const std::optional<std::string> none;
+  const std::vector<std::pair<std::vector<std::optional<std::string>>, std::vector<std::string>>>
+      rows = {{{none, none, none}, {"Group1", "Group2", "Group3"}},
+              {{"foo", none}, {"foo", "Group1"}},
+              {{"foo", "foo"}, {"foo", "Group1"}},  // a collision falls back to a number
+              {{"Group2", none, none}, {"Group2", "Group1", "Group3"}},
+              {{none, "Group1"}, {"Group1", "Group2"}},  // a generated name blocks a wanted one
+              {{"", ""}, {"", "Group1"}}};
+  for (const auto& [wanted, expected] : rows) {
+    IDPool pool("Group");
+    std::vector<std::string> names;
+    for (const auto& name : wanted) names.push_back(pool.uniqueID(name));
+    EXPECT_EQ(names, expected);
+  }
 }
-
-const std::optional<std::string> none;
-
-INSTANTIATE_TEST_SUITE_P(
-    Rows, IDPoolSequence,
-    testing::Values(
-        PoolRow{"numbering", {none, none, none}, {"Group1", "Group2", "Group3"}},
-        PoolRow{"wantedFirst", {"foo", none}, {"foo", "Group1"}},
-        PoolRow{"collisionFallsBackToNumber", {"foo", "foo"}, {"foo", "Group1"}},
-        PoolRow{"wantedNameTakesANumber", {"Group2", none, none}, {"Group2", "Group1", "Group3"}},
-        PoolRow{"generatedNameBlocksWanted", {none, "Group1"}, {"Group1", "Group2"}},
-        PoolRow{"emptyIsANameOnce", {"", ""}, {"", "Group1"}}),
-    [](const auto& info) { return std::string(info.param.label); });
 
 TEST(IDPool, NumberingGoesOnPastAThousandWhileCandidatesAreFree) {
   IDPool pool("p");
@@ -61,37 +51,26 @@ TEST(IDPool, TakenCandidateAboveNineHundredNinetyNineGivesAnUnrecordedUUID) {
   EXPECT_EQ(pool.counter, 1001);
 }
 
-struct NameRow {
-  const char* label;
-  std::string id;
-  NameCase nameCase;
-  std::string expected;
-};
-
-class NamePipeline : public testing::TestWithParam<NameRow> {};
-
-TEST_P(NamePipeline, MakesAnIdentifier) {
-  IDPool pool("Circle");
-  EXPECT_EQ(makeTypeName(pool, GetParam().id, GetParam().nameCase), GetParam().expected);
+TEST(NamePipeline, MakesAnIdentifier) {
+  const std::tuple<std::string, NameCase, std::string> rows[] = {
+      {"my-shape", NameCase::type, "My_shape"},
+      {"1st", NameCase::type, "Z1st"},
+      {"_a", NameCase::type, "Z_a"},
+      {"-a", NameCase::type, "Z_a"},
+      {"Paint-1", NameCase::property, "paint_1"},
+      {"9", NameCase::property, "z9"},
+      {"aBC-dEF", NameCase::type, "ABC_dEF"},  // the remainder is untouched
+      {"élan", NameCase::type, "Élan"},
+      {"ßx", NameCase::type, "SSx"},             // upper case in two letters
+      {"e\u0301t", NameCase::type, "E\u0301t"},  // a combining mark stays with its letter
+      {"\u0301a", NameCase::type, "\u0301a"},    // and is a letter itself here
+      {"\U0001F600", NameCase::type, "Z\U0001F600"},
+      {"", NameCase::type, ""}};
+  for (const auto& [id, nameCase, expected] : rows) {
+    IDPool pool("Circle");
+    EXPECT_EQ(makeTypeName(pool, id, nameCase), expected) << id;
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Rows, NamePipeline,
-    testing::Values(NameRow{"dashes", "my-shape", NameCase::type, "My_shape"},
-                    NameRow{"leadingDigit", "1st", NameCase::type, "Z1st"},
-                    NameRow{"leadingUnderscore", "_a", NameCase::type, "Z_a"},
-                    NameRow{"leadingDash", "-a", NameCase::type, "Z_a"},
-                    NameRow{"propertyLowersFirst", "Paint-1", NameCase::property, "paint_1"},
-                    NameRow{"propertyAfterDigit", "9", NameCase::property, "z9"},
-                    NameRow{"remainderUntouched", "aBC-dEF", NameCase::type, "ABC_dEF"},
-                    NameRow{"nonAsciiLetter", "élan", NameCase::type, "Élan"},
-                    NameRow{"sharpSUpperCasesToTwoLetters", "ßx", NameCase::type, "SSx"},
-                    NameRow{"combiningMarkStaysWithItsLetter", "e\u0301t", NameCase::type,
-                            "E\u0301t"},
-                    NameRow{"markIsALetterHere", "\u0301a", NameCase::type, "\u0301a"},
-                    NameRow{"emoji", "\U0001F600", NameCase::type, "Z\U0001F600"},
-                    NameRow{"empty", "", NameCase::type, ""}),
-    [](const auto& info) { return std::string(info.param.label); });
 
 TEST(NamePipeline, GeneratedNamesPassThroughThePipeline) {
   IDPool pool("linearGradient");

@@ -30,68 +30,42 @@ std::string describeAll(const std::vector<PathCommand>& commands) {
   return text;
 }
 
-PathCommand move(double x, double y) {
-  return PathCommand::moveTo({x, y});
-}
-PathCommand line(double x, double y) {
-  return PathCommand::addLineTo({x, y});
-}
-PathCommand lines(std::vector<CGPoint> points) {
-  return PathCommand::addLines(std::move(points));
-}
-PathCommand curve(CGPoint p, CGPoint c1, CGPoint c2) {
+const auto move = [](double x, double y) { return PathCommand::moveTo({x, y}); };
+const auto line = [](double x, double y) { return PathCommand::addLineTo({x, y}); };
+const auto lines = [](std::vector<CGPoint> points) { return PathCommand::addLines(points); };
+const auto curve = [](CGPoint p, CGPoint c1, CGPoint c2) {
   return PathCommand::addCurveTo(p, c1, c2);
-}
-PathCommand close() {
-  return PathCommand::closeSubpath();
-}
-
-TEST(Arc, EndOnCurrentPointGivesAZeroArcAtThePoint) {
-  const auto arc = SVGConverter::arcCommand(2, 3, 0, true, {5, 5}, {5, 5});
-  EXPECT_EQ(arc,
-            PathCommand::addRelativeArc(
-                {0, 0}, 1.0, 0, 0, {TransformStep::translate(5, 5), TransformStep::scale(2, 3)}))
-      << SVGConverter::describe(arc);
-}
-
-struct ArcRow {
-  const char* label;
-  double rx, ry, angle;
-  bool sweep;
-  CGPoint end, current;
-  PathCommand expected;
 };
-
-class ExactArcs : public testing::TestWithParam<ArcRow> {};
-
-// Cases whose arithmetic can be followed by hand to the last bit.
-TEST_P(ExactArcs, MatchToTheLastBit) {
-  const auto& row = GetParam();
-  const auto arc =
-      SVGConverter::arcCommand(row.rx, row.ry, row.angle, row.sweep, row.end, row.current);
-  EXPECT_EQ(arc, row.expected) << SVGConverter::describe(arc);
-}
+const auto close = [] { return PathCommand::closeSubpath(); };
 
 PathCommand arc(double startAngle, double delta, std::vector<TransformStep> steps) {
   return PathCommand::addRelativeArc({0, 0}, 1.0, startAngle, delta, std::move(steps));
 }
 
-// clang-format off
-INSTANTIATE_TEST_SUITE_P(
-    Rows, ExactArcs,
-    testing::Values(
-        ArcRow{"semicircleSweep", 1, 1, 0, true, {2, 0}, {0, 0},
-               arc(pi, pi, {TransformStep::translate(1, 0)})},
-        ArcRow{"semicircleNoSweep", 1, 1, 0, false, {2, 0}, {0, 0},
-               arc(pi, -pi, {TransformStep::translate(1, 0)})},
-        ArcRow{"negativeRadiiActAsAbsolute", -1, -1, 0, true, {2, 0}, {0, 0},
-               arc(pi, pi, {TransformStep::translate(1, 0)})},
-        // Radii too small are scaled up until the chord fits: centre on its midpoint.
-        ArcRow{"radiiScaledUp", 1, 1, 0, true, {4, 0}, {0, 0},
-               arc(pi, pi, {TransformStep::translate(2, 0), TransformStep::scale(2, 2)})},
-        ArcRow{"unitCircleAtOriginHasNoSteps", 1, 1, 0, true, {1, 0}, {-1, 0}, arc(pi, pi, {})}),
-    [](const auto& info) { return std::string(info.param.label); });
-// clang-format on
+// Cases whose arithmetic can be followed by hand to the last bit. Negative radii act as their
+// absolute values; radii too small are scaled up until the chord fits, with the centre on its
+// midpoint; an end on the current point gives a zero arc there.
+TEST(Arc, ExactCasesMatchToTheLastBit) {
+  struct Row {
+    double rx, ry, angle;
+    bool sweep;
+    CGPoint end, current;
+    PathCommand expected;
+  };
+  const auto translate = TransformStep::translate;
+  const Row rows[] = {
+      {1, 1, 0, true, {2, 0}, {0, 0}, arc(pi, pi, {translate(1, 0)})},
+      {1, 1, 0, false, {2, 0}, {0, 0}, arc(pi, -pi, {translate(1, 0)})},
+      {-1, -1, 0, true, {2, 0}, {0, 0}, arc(pi, pi, {translate(1, 0)})},
+      {1, 1, 0, true, {4, 0}, {0, 0}, arc(pi, pi, {translate(2, 0), TransformStep::scale(2, 2)})},
+      {1, 1, 0, true, {1, 0}, {-1, 0}, arc(pi, pi, {})},
+      {2, 3, 0, true, {5, 5}, {5, 5}, arc(0, 0, {translate(5, 5), TransformStep::scale(2, 3)})}};
+  for (const auto& row : rows) {
+    const auto arc =
+        SVGConverter::arcCommand(row.rx, row.ry, row.angle, row.sweep, row.end, row.current);
+    EXPECT_EQ(arc, row.expected) << SVGConverter::describe(arc);
+  }
+}
 
 // fmod keeps the sign and reduces by two pi: 450 degrees rotate by pi/2 as 90 do.
 TEST(Arc, AngleIsReducedWithFmod) {
@@ -143,50 +117,31 @@ TEST(Arc, OneZeroRadiusDoesNotStopTheConversion) {
   EXPECT_TRUE(std::holds_alternative<PathCommand::AddRelativeArc>(nan.value));
 }
 
-struct FoldRow {
-  const char* label;
-  std::vector<PathCommand> input;
-  std::vector<PathCommand> expected;
-};
-
-class Folding : public testing::TestWithParam<FoldRow> {};
-
-TEST_P(Folding, FoldsStraightRuns) {
-  const auto result = SVGConverter::foldLines(GetParam().input);
-  EXPECT_EQ(result, GetParam().expected) << describeAll(result);
+// A move and the lines after it fold into one record, and so do records that join at a shared
+// point; a leading line has no move to fold into, and curves and gaps break a run.
+TEST(Folding, FoldsStraightRuns) {
+  using Commands = std::vector<PathCommand>;
+  const std::pair<Commands, Commands> rows[] = {
+      {{move(0, 0), line(1, 1), line(2, 2), close()}, {lines({{0, 0}, {1, 1}, {2, 2}}), close()}},
+      {{move(0, 0), line(1, 1)}, {move(0, 0), line(1, 1)}},
+      {{move(0, 0), line(1, 1), curve({3, 3}, {1, 1}, {2, 2}), line(4, 4), line(5, 5)},
+       {move(0, 0), line(1, 1), curve({3, 3}, {1, 1}, {2, 2}), line(4, 4), line(5, 5)}},
+      {{line(1, 1), curve({3, 3}, {1, 1}, {2, 2})}, {line(1, 1), curve({3, 3}, {1, 1}, {2, 2})}},
+      // Two leading lines have no move to fold into: both stand as they are.
+      {{line(1, 1), line(2, 2), line(3, 3)}, {line(1, 1), line(2, 2), line(3, 3)}},
+      {{line(1, 1), lines({{1, 1}, {2, 2}})}, {line(1, 1), lines({{1, 1}, {2, 2}})}},
+      {{move(0, 0), line(1, 1), lines({{1, 1}, {2, 2}}), lines({{2, 2}, {3, 3}})},
+       {lines({{0, 0}, {1, 1}, {2, 2}, {3, 3}})}},
+      {{lines({{0, 0}, {1, 1}}), lines({{5, 5}, {6, 6}})},
+       {lines({{0, 0}, {1, 1}}), lines({{5, 5}, {6, 6}})}},
+      {{lines({}), lines({})}, {lines({}), lines({})}},
+      {{move(0, 0), line(1, 0), line(1, 1), move(5, 5), line(6, 5), line(6, 6)},
+       {lines({{0, 0}, {1, 0}, {1, 1}}), lines({{5, 5}, {6, 5}, {6, 6}})}}};
+  for (const auto& [input, expected] : rows) {
+    const auto result = SVGConverter::foldLines(input);
+    EXPECT_EQ(result, expected) << describeAll(result);
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Rows, Folding,
-    testing::Values(
-        FoldRow{"moveAndTwoLines",
-                {move(0, 0), line(1, 1), line(2, 2), close()},
-                {lines({{0, 0}, {1, 1}, {2, 2}}), close()}},
-        FoldRow{"moveAndOneLineStayApart", {move(0, 0), line(1, 1)}, {move(0, 0), line(1, 1)}},
-        FoldRow{"linesAfterCurveStayApart",
-                {move(0, 0), line(1, 1), curve({3, 3}, {1, 1}, {2, 2}), line(4, 4), line(5, 5)},
-                {move(0, 0), line(1, 1), curve({3, 3}, {1, 1}, {2, 2}), line(4, 4), line(5, 5)}},
-        FoldRow{"leadingLineBeforeCurve",
-                {line(1, 1), curve({3, 3}, {1, 1}, {2, 2})},
-                {line(1, 1), curve({3, 3}, {1, 1}, {2, 2})}},
-        // Two leading lines have no move to fold into: both stand as they are.
-        FoldRow{"twoLeadingLinesKeptUnfolded",
-                {line(1, 1), line(2, 2), line(3, 3)},
-                {line(1, 1), line(2, 2), line(3, 3)}},
-        FoldRow{"leadingLineThenLines",
-                {line(1, 1), lines({{1, 1}, {2, 2}})},
-                {line(1, 1), lines({{1, 1}, {2, 2}})}},
-        FoldRow{"moveThenLinesRecordJoinsAtSharedPoint",
-                {move(0, 0), line(1, 1), lines({{1, 1}, {2, 2}}), lines({{2, 2}, {3, 3}})},
-                {lines({{0, 0}, {1, 1}, {2, 2}, {3, 3}})}},
-        FoldRow{"linesRecordsWithGapStayApart",
-                {lines({{0, 0}, {1, 1}}), lines({{5, 5}, {6, 6}})},
-                {lines({{0, 0}, {1, 1}}), lines({{5, 5}, {6, 6}})}},
-        FoldRow{"emptyLinesRecordsStayApart", {lines({}), lines({})}, {lines({}), lines({})}},
-        FoldRow{"secondSubpath",
-                {move(0, 0), line(1, 0), line(1, 1), move(5, 5), line(6, 5), line(6, 6)},
-                {lines({{0, 0}, {1, 0}, {1, 1}}), lines({{5, 5}, {6, 5}, {6, 6}})}}),
-    [](const auto& info) { return std::string(info.param.label); });
 
 TEST(ConvertPath, RunsBothPasses) {
   const auto result = SVGConverter::convertPath(

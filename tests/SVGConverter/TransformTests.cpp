@@ -38,57 +38,29 @@ TEST(AffineTransform, MakeRotationUsesSineAndCosine) {
             (CGAffineTransform{std::cos(0.5), std::sin(0.5), -std::sin(0.5), std::cos(0.5), 0, 0}));
 }
 
-SVG::Transform transform(SVG::Transform::Matrix m) {
-  return {m};
-}
-SVG::Transform transform(SVG::Transform::Rotate r) {
-  return {r};
-}
-SVG::Transform transform(SVG::Transform::Translate t) {
-  return {t};
-}
-SVG::Transform transform(SVG::Transform::Scale s) {
-  return {s};
-}
-SVG::Transform transform(SVG::Transform::SkewX k) {
-  return {k};
-}
-SVG::Transform transform(SVG::Transform::SkewY k) {
-  return {k};
+template <class T>
+SVG::Transform transform(T step) {
+  return {step};
 }
 
-struct StepRow {
-  const char* label;
-  SVG::Transform input;
-  TransformStep expected;
-};
-
-class Steps : public testing::TestWithParam<StepRow> {};
-
-TEST_P(Steps, ConvertToOneStep) {
-  const auto step = SVGConverter::transformStep(GetParam().input);
-  EXPECT_EQ(step, GetParam().expected) << SVGConverter::describe(step);
+// A short matrix is padded with zeros, a long one cut; skews become matrices.
+TEST(Steps, ConvertToOneStep) {
+  using T = SVG::Transform;
+  const double skew = std::tan(30 * pi / 180.0);
+  const std::pair<SVG::Transform, TransformStep> rows[] = {
+      {transform(T::Rotate{45, 0, 0}), TransformStep::rotate(0.7853981633974483)},
+      {transform(T::Translate{1, 2}), TransformStep::translate(1, 2)},
+      {transform(T::Scale{2, 3}), TransformStep::scale(2, 3)},
+      {transform(T::Matrix{{1, 0, 0, 1}}), TransformStep::matrix({1, 0, 0, 1, 0, 0})},
+      {transform(T::Matrix{{1, 2, 3, 4, 5, 6, 7}}), TransformStep::matrix({1, 2, 3, 4, 5, 6})},
+      {transform(T::Matrix{{}}), TransformStep::matrix({0, 0, 0, 0, 0, 0})},
+      {transform(T::SkewX{30}), TransformStep::matrix({1, 0, skew, 1, 0, 0})},
+      {transform(T::SkewY{30}), TransformStep::matrix({1, skew, 0, 1, 0, 0})}};
+  for (const auto& [input, expected] : rows) {
+    const auto step = SVGConverter::transformStep(input);
+    EXPECT_EQ(step, expected) << SVGConverter::describe(step);
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Rows, Steps,
-    testing::Values(
-        StepRow{"rotate45", transform(SVG::Transform::Rotate{45, 0, 0}),
-                TransformStep::rotate(0.7853981633974483)},
-        StepRow{"translate", transform(SVG::Transform::Translate{1, 2}),
-                TransformStep::translate(1, 2)},
-        StepRow{"scale", transform(SVG::Transform::Scale{2, 3}), TransformStep::scale(2, 3)},
-        StepRow{"shortMatrixPadded", transform(SVG::Transform::Matrix{{1, 0, 0, 1}}),
-                TransformStep::matrix({1, 0, 0, 1, 0, 0})},
-        StepRow{"longMatrixCut", transform(SVG::Transform::Matrix{{1, 2, 3, 4, 5, 6, 7}}),
-                TransformStep::matrix({1, 2, 3, 4, 5, 6})},
-        StepRow{"emptyMatrix", transform(SVG::Transform::Matrix{{}}),
-                TransformStep::matrix({0, 0, 0, 0, 0, 0})},
-        StepRow{"skewX", transform(SVG::Transform::SkewX{30}),
-                TransformStep::matrix({1, 0, std::tan(30 * pi / 180.0), 1, 0, 0})},
-        StepRow{"skewY", transform(SVG::Transform::SkewY{30}),
-                TransformStep::matrix({1, std::tan(30 * pi / 180.0), 0, 1, 0, 0})}),
-    [](const auto& info) { return std::string(info.param.label); });
 
 // A rotation with a centre is built translate(-x,-y), rotate, translate(x,y) with the
 // prepending operations, so it turns about (-x, -y).

@@ -17,6 +17,7 @@
 #include <fstream>
 #include <iterator>
 #include <optional>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -27,18 +28,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int exitUnreadable = 1;
-constexpr int exitUsage = 2;
-constexpr int exitThrew = 3;
-constexpr int exitSkipped = 77;
+constexpr int exitUnreadable = 1, exitUsage = 2, exitThrew = 3, exitSkipped = 77;
 
 struct Tally {
-  std::size_t files = 0;
-  std::size_t converted = 0;
-  std::size_t failed = 0;
-  std::size_t unreadable = 0;
-  std::size_t threw = 0;
-  std::size_t reportLines = 0;
+  std::size_t files = 0, converted = 0, failed = 0, unreadable = 0, threw = 0, reportLines = 0;
   double slowestSeconds = 0;
   std::string slowestFile;
 };
@@ -93,14 +86,10 @@ std::optional<std::vector<std::string>> readList(const fs::path& listFile) {
   const auto text = readBytes(listFile);
   if (!text) return std::nullopt;
   std::vector<std::string> entries;
-  std::size_t start = 0;
-  while (start < text->size()) {
-    std::size_t end = text->find('\n', start);
-    if (end == std::string::npos) end = text->size();
-    std::string line = text->substr(start, end - start);
+  std::istringstream lines(*text);
+  for (std::string line; std::getline(lines, line);) {
     if (!line.empty() && line.back() == '\r') line.pop_back();
     if (!line.empty() && line.front() != '#') entries.push_back(std::move(line));
-    start = end + 1;
   }
   return entries;
 }

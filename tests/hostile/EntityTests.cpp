@@ -71,29 +71,19 @@ TEST(Entities, ModestInternalEntityExpands) {
   EXPECT_NE(outcome.swift.find("Hello Hello"), std::string::npos) << outcome.swift;
 }
 
-class ExternalEntity : public testing::Test {
- protected:
-  void SetUp() override {
-    directory_ = std::filesystem::temp_directory_path() /
-                 ("svgfigurer-hostile-" + std::to_string(::getpid()));
-    std::filesystem::create_directories(directory_);
-    secretPath_ = directory_ / "secret.txt";
-    std::ofstream(secretPath_) << secret;
-    dtdPath_ = directory_ / "outside.dtd";
-    std::ofstream(dtdPath_) << "<!ENTITY leak \"" << secret << "\">";
-    ASSERT_TRUE(std::filesystem::exists(secretPath_));
-  }
-  void TearDown() override { std::filesystem::remove_all(directory_); }
-
-  std::string url(const std::filesystem::path& path) const { return "file://" + path.string(); }
-
-  static constexpr std::string_view secret = "CONTENT-FROM-DISK-7f3a";
-  std::filesystem::path directory_, secretPath_, dtdPath_;
-};
-
 // Each document names a file that exists. Whatever the reader makes of the document, the
 // file's content must appear nowhere: not in the tree, the source or the report.
-TEST_F(ExternalEntity, IsNeverRead) {
+TEST(Entities, ExternalEntityIsNeverRead) {
+  namespace fs = std::filesystem;
+  const auto directory =
+      fs::temp_directory_path() / ("svgfigurer-hostile-" + std::to_string(::getpid()));
+  fs::create_directories(directory);
+  const std::string secret = "CONTENT-FROM-DISK-7f3a";
+  const auto secretPath = directory / "secret.txt", dtdPath = directory / "outside.dtd";
+  std::ofstream(secretPath) << secret;
+  std::ofstream(dtdPath) << "<!ENTITY leak \"" << secret << "\">";
+  ASSERT_TRUE(fs::exists(secretPath));
+  const auto url = [](const fs::path& path) { return "file://" + path.string(); };
   const std::string svgOpen = "<svg xmlns=\"http://www.w3.org/2000/svg\">";
   struct Row {
     const char* name;
@@ -102,24 +92,24 @@ TEST_F(ExternalEntity, IsNeverRead) {
   };
   const Row rows[] = {
       {"general entity in text",
-       "<!DOCTYPE svg [<!ENTITY xxe SYSTEM \"" + url(secretPath_) + "\">]>" + svgOpen +
+       "<!DOCTYPE svg [<!ENTITY xxe SYSTEM \"" + url(secretPath) + "\">]>" + svgOpen +
            "<text>&xxe;</text></svg>",
        true},
       {"general entity by relative path",
-       "<!DOCTYPE svg [<!ENTITY xxe SYSTEM \"" + secretPath_.string() + "\">]>" + svgOpen +
+       "<!DOCTYPE svg [<!ENTITY xxe SYSTEM \"" + secretPath.string() + "\">]>" + svgOpen +
            "<text>&xxe;</text><style>&xxe;</style></svg>",
        true},
       // An external entity may not appear in an attribute at all: that is an XML error.
       {"general entity in attribute",
-       "<!DOCTYPE svg [<!ENTITY xxe SYSTEM \"" + url(secretPath_) + "\">]>" + svgOpen +
+       "<!DOCTYPE svg [<!ENTITY xxe SYSTEM \"" + url(secretPath) + "\">]>" + svgOpen +
            "<text id=\"&xxe;\">x</text></svg>",
        false},
       {"parameter entity",
-       "<!DOCTYPE svg [<!ENTITY % ext SYSTEM \"" + url(dtdPath_) + "\"> %ext;]>" + svgOpen +
+       "<!DOCTYPE svg [<!ENTITY % ext SYSTEM \"" + url(dtdPath) + "\"> %ext;]>" + svgOpen +
            "<text>&leak;</text></svg>",
        true},
       {"external subset",
-       "<!DOCTYPE svg SYSTEM \"" + url(dtdPath_) + "\">" + svgOpen + "<text>&leak;</text></svg>",
+       "<!DOCTYPE svg SYSTEM \"" + url(dtdPath) + "\">" + svgOpen + "<text>&leak;</text></svg>",
        true},
   };
   for (const auto& row : rows) {
@@ -132,6 +122,7 @@ TEST_F(ExternalEntity, IsNeverRead) {
       EXPECT_EQ(SVGParser::describeTree(*outcome.svg).find(secret), std::string::npos);
     }
   }
+  fs::remove_all(directory);
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 // Drives hostile documents through the whole engine (read, convert, generate) and keeps what
-// came out: the tree, the model, the source text and every report line of the three stages.
+// came out: the tree, the source text and every report line of the three stages.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -36,20 +36,13 @@ struct Outcome {
   std::vector<std::string> lines;
 
   bool converted() const { return svg.has_value(); }
-  // The view model that the source was written from, made again on demand: the exporter
-  // keeps its own to itself.
+  // The view model that the source was written from, made again: the exporter keeps its own.
   SwiftUIModel::ContainerViewType model() const {
     return SVGSwiftUIFigurer::makeModel(*svg, "", SVGParser::Report{});
   }
   bool reported(std::string_view fragment) const {
-    return std::any_of(lines.begin(), lines.end(), [&](const std::string& line) {
-      return line.find(fragment) != std::string::npos;
-    });
-  }
-  std::size_t countReported(std::string_view fragment) const {
-    return static_cast<std::size_t>(std::count_if(
-        lines.begin(), lines.end(),
-        [&](const std::string& line) { return line.find(fragment) != std::string::npos; }));
+    return std::any_of(lines.begin(), lines.end(),
+                       [&](const std::string& line) { return line.find(fragment) != line.npos; });
   }
   std::string allLines() const {
     std::string out;
@@ -60,30 +53,22 @@ struct Outcome {
 
 // The whole pipeline. A refused document stops after the reader, as the callers do: they show
 // a failure text instead of source.
-inline Outcome convert(std::string_view text, SVGParser::ParseOptions options = {},
-                       SVGSwiftUIExporter::Config config = {}) {
+inline Outcome convert(std::string_view text, SVGParser::ParseOptions options = {}) {
   Outcome outcome;
-  const SVGParser::Report report(
-      [&outcome](std::string_view line) { outcome.lines.emplace_back(line); });
+  const SVGParser::Report report([&](std::string_view line) { outcome.lines.emplace_back(line); });
   outcome.svg = SVGParser::parse(text, options, report);
-  if (!outcome.svg) return outcome;
-  outcome.swift = SVGSwiftUIExporter::generate(*outcome.svg, config, report);
+  if (outcome.svg) outcome.swift = SVGSwiftUIExporter::generate(*outcome.svg, {}, report);
   return outcome;
 }
 
 inline std::string document(std::string_view body, std::string_view rootAttributes = "") {
-  std::string text = "<svg xmlns=\"http://www.w3.org/2000/svg\"";
-  if (!rootAttributes.empty()) text += " " + std::string(rootAttributes);
-  text += ">";
-  text += body;
-  text += "</svg>";
-  return text;
+  return "<svg xmlns=\"http://www.w3.org/2000/svg\" " + std::string(rootAttributes) + ">" +
+         std::string(body) + "</svg>";
 }
 
 inline std::size_t occurrences(std::string_view text, std::string_view needle) {
   std::size_t count = 0;
-  for (auto at = text.find(needle); at != std::string_view::npos;
-       at = text.find(needle, at + needle.size())) {
+  for (auto at = text.find(needle); at != text.npos; at = text.find(needle, at + needle.size())) {
     ++count;
   }
   return count;
@@ -93,7 +78,7 @@ inline std::size_t occurrences(std::string_view text, std::string_view needle) {
 // file would mean a stage gave up halfway.
 inline void expectCompleteFile(const Outcome& outcome) {
   ASSERT_TRUE(outcome.converted());
-  EXPECT_FALSE(outcome.swift.empty());
+  ASSERT_FALSE(outcome.swift.empty());
   EXPECT_EQ(outcome.swift.back(), '\n');
   EXPECT_EQ(occurrences(outcome.swift, "{"), occurrences(outcome.swift, "}"));
 }

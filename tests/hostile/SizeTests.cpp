@@ -58,12 +58,7 @@ TEST_P(LongPathData, ParsesInOnePass) {
   const auto& row = GetParam();
   std::string d = row.start;
   std::size_t repetitions = 0;
-  const std::string_view repeated = row.repeated;
-  d.reserve(attributeSize + 64);
-  while (d.size() < attributeSize) {
-    d += repeated;
-    ++repetitions;
-  }
+  for (d.reserve(attributeSize + 64); d.size() < attributeSize; ++repetitions) d += row.repeated;
   d += row.end;
   const auto outcome = convert(Hostile::document("<path d=\"" + d + "\"/><circle r=\"1\"/>"));
   ASSERT_NO_FATAL_FAILURE(Hostile::expectCompleteFile(outcome));
@@ -94,74 +89,48 @@ INSTANTIATE_TEST_SUITE_P(Hostile, LongPathData, testing::ValuesIn(longPathCases)
                          [](const auto& info) { return std::string(info.param.name); });
 
 // Other attributes and texts of many megabytes: the reader keeps them, the converter makes
-// names and string literals from them.
+// names and string literals from them. Each is `copies` times the unit repeated to the size
+// over `share`, between `before` and `after`.
 struct LongValueCase {
   const char* name;
-  std::string (*body)(const std::string& big);
+  std::string before;
+  const char* unit;
+  std::size_t share;
+  const char* after;
   const char* reported;  // a fragment of one report line, or empty for none
+  int copies = 1;
 };
 
 class LongValue : public testing::TestWithParam<LongValueCase> {};
 
 TEST_P(LongValue, Converts) {
   const auto& row = GetParam();
-  const std::string big(attributeSize, 'a');
-  const auto outcome = convert(Hostile::document(row.body(big)));
+  std::string value;
+  while (value.size() < attributeSize / row.share) value += row.unit;
+  std::string body;
+  for (int i = 0; i < row.copies; ++i) body += row.before + value + row.after;
+  const auto outcome = convert(Hostile::document(body));
   ASSERT_NO_FATAL_FAILURE(Hostile::expectCompleteFile(outcome));
   if (*row.reported == 0) {
-    EXPECT_TRUE(outcome.lines.empty());
+    EXPECT_TRUE(outcome.lines.empty()) << outcome.allLines();
   } else {
-    EXPECT_TRUE(outcome.reported(row.reported));
+    EXPECT_TRUE(outcome.reported(row.reported)) << outcome.allLines();
   }
 }
 
 const LongValueCase longValueCases[] = {
-    {"text", [](const std::string& big) { return "<text>" + big + "</text>"; }, ""},
-    {"textOfEscapes",
-     [](const std::string& big) {
-       std::string text;
-       for (std::size_t i = 0; i < big.size() / 8; ++i) text += "&quot;\\\n";
-       return "<text>" + text + "</text>";
-     },
+    {"text", "<text>", "a", 1, "</text>", ""},
+    {"textOfEscapes", "<text>", "&quot;\\\n", 1, "</text>", ""},
+    {"id", "<rect width=\"1\" id=\"", "a", 1, "\"/>", ""},
+    {"idsThatCollide", "<circle r=\"1\" id=\"", "a", 10, "\"/>", "", 10},
+    {"classAttribute", "<rect width=\"1\" class=\"", "a", 1, "\"/>", ""},
+    {"styleAttribute", "<rect width=\"1\" style=\"fill:", "a", 1, "\"/>", ""},
+    {"unknownNumber", "<rect width=\"1", "a", 1, "\"/>", "ERROR: unsupported CSS unit:"},
+    {"unknownElement", "<" + std::string(1000, 'a') + " x=\"", "a", 1, "\"/>", "OTHER:"},
+    {"pointsList", "<polyline stroke=\"red\" points=\"", "1,2 3.5,4 ", 1, "\"/>", ""},
+    {"transformList", "<rect width=\"1\" height=\"1\" transform=\"", "translate(1 2) ", 4, "\"/>",
      ""},
-    {"id", [](const std::string& big) { return "<rect id=\"" + big + "\" width=\"1\"/>"; }, ""},
-    {"idsThatCollide",
-     [](const std::string& big) {
-       std::string body;
-       for (int i = 0; i < 10; ++i)
-         body += "<circle id=\"" + big.substr(0, big.size() / 10) + "\" r=\"1\"/>";
-       return body;
-     },
-     ""},
-    {"classAttribute",
-     [](const std::string& big) { return "<rect class=\"" + big + "\" width=\"1\"/>"; }, ""},
-    {"styleAttribute",
-     [](const std::string& big) { return "<rect style=\"fill:" + big + "\" width=\"1\"/>"; }, ""},
-    {"unknownNumber", [](const std::string& big) { return "<rect width=\"1" + big + "\"/>"; },
-     "ERROR: unsupported CSS unit:"},
-    {"unknownElement",
-     [](const std::string& big) { return "<" + big.substr(0, 1000) + " x=\"" + big + "\"/>"; },
-     "OTHER:"},
-    {"pointsList",
-     [](const std::string& big) {
-       std::string points;
-       while (points.size() < big.size()) points += "1,2 3.5,4 ";
-       return "<polyline points=\"" + points + "\" stroke=\"red\"/>";
-     },
-     ""},
-    {"transformList",
-     [](const std::string& big) {
-       std::string list;
-       while (list.size() < big.size() / 4) list += "translate(1 2) ";
-       return "<rect width=\"1\" height=\"1\" transform=\"" + list + "\"/>";
-     },
-     ""},
-    {"viewBox",
-     [](const std::string& big) {
-       std::string numbers;
-       while (numbers.size() < big.size()) numbers += "1 ";
-       return "<svg viewBox=\"" + numbers + "\"><circle r=\"1\"/></svg>";
-     },
+    {"viewBox", "<svg viewBox=\"", "1 ", 1, "\"><circle r=\"1\"/></svg>",
      "Unexpected CGRect value:"},
 };
 
