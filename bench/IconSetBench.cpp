@@ -14,7 +14,6 @@
 
 #include "BenchSupport.h"
 #include "SVGFigurerApp/SVGFigurerApp.h"
-#include "SyntheticSVG.h"
 
 namespace {
 
@@ -81,28 +80,5 @@ void BM_Generate_IconSet(benchmark::State& state) {
   generatePass(state, iconFiles());
 }
 BENCHMARK(BM_Generate_IconSet)->Unit(benchmark::kMillisecond);
-
-// The shape-heavy worst case: 200,000 unit squares (5.6 MB) in one document.
-void BM_ExpatOnly_Rects200k(benchmark::State& state) {
-  expatPass(state, {bench::rectsSVG()});
-}
-BENCHMARK(BM_ExpatOnly_Rects200k)->Unit(benchmark::kMillisecond);
-
-void BM_EndToEnd_Rects200k_Streamed(benchmark::State& state) {
-  const std::string& text = bench::rectsSVG();
-  bench::SilentLogger log;
-  const auto config = SVGFigurerApp::SVGFigurerConfiguration::fresh();
-  std::size_t written = 0;
-  const auto sink = [&](std::string_view piece) { written += piece.size(); };
-  for (auto _ : state) {
-    if (SVGFigurerApp::generateSwift(text, config, log, {}, sink)) {
-      state.SkipWithError("generation failed");
-      break;
-    }
-  }
-  benchmark::DoNotOptimize(written);
-  state.SetBytesProcessed(std::int64_t(state.iterations()) * std::int64_t(text.size()));
-}
-BENCHMARK(BM_EndToEnd_Rects200k_Streamed)->Unit(benchmark::kMillisecond);
 
 }  // namespace

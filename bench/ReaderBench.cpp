@@ -26,6 +26,11 @@ void BM_ExpatOnly_50MB(benchmark::State& state) {
 }
 BENCHMARK(BM_ExpatOnly_50MB)->Unit(benchmark::kMillisecond);
 
+void BM_ExpatOnly_Rects200k(benchmark::State& state) {
+  expatOnly(state, bench::rectsSVG());
+}
+BENCHMARK(BM_ExpatOnly_Rects200k)->Unit(benchmark::kMillisecond);
+
 void BM_Reader(benchmark::State& state) {
   const std::string& text = bench::largePathSVG();
   const SVGParser::Report silent;

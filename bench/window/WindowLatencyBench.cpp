@@ -11,6 +11,7 @@
 #include <chrono>
 #include <vector>
 
+#include "BenchSupport.h"
 #include "FigurerUtilities/CodeEditor.h"
 #include "FigurerUtilities/SVGWebView.h"
 #include "Highlight/HighlightJS.h"
@@ -23,13 +24,7 @@ namespace {
 
 using namespace SVGFigurerWindow;
 
-class SilentLogger final : public CoreS::Logger {
- public:
-  CoreS::LogLevel logLevel() const override { return CoreS::LogLevel::error; }
-  void primaryLog(CoreS::LogLevel, CoreS::MessageProducer,
-                  std::span<const CoreS::LogValue>) override {}
-  std::string description() const override { return "SilentLogger"; }
-};
+using bench::SilentLogger;
 
 double percentile(std::vector<double> values, double fraction) {
   if (values.empty()) return 0;
