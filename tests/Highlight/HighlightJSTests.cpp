@@ -7,93 +7,61 @@
 #include <QTemporaryDir>
 #include <future>
 
-#include "support/CapturingLogger.h"
+#include "FigurerUtilities/Transcript.h"
 #include "TestSupport.h"
+#include "support/CapturingLogger.h"
 
 namespace Highlight {
 namespace {
 
 using CoreS::LogLevel;
 
-// A stand-in for highlight.js with the same entry points and predictable answers.
-constexpr const char* kFakeScript = R"JS(
-window.hljs = {
-  listLanguages: function() { return ["Swift", "XML"]; },
-  highlight: function(language, text, ignoreIllegals) {
-    if (language === "throws") throw new Error("nope");
-    if (language === "unbalanced") return { value: "a</span></span>" };
-    if (language === "surrogate") return { value: "&#xD800;" };
-    if (language === "novalue") return {};
-    return { value: '<span class="hljs-keyword">' + text + '</span>&lt;' };
-  },
-  highlightAuto: function(text) { return { value: text }; }
-};
-)JS";
-
-class ScriptDir {
- public:
-  std::string write(const char* name, const char* content) {
-    const QString path = dir_.filePath(QString::fromLatin1(name));
-    QFile file(path);
+// Writes a script into a temporary folder and gives its path.
+struct ScriptDir : QTemporaryDir {
+  std::string write(const char* content) {
+    QFile file(filePath("s.js"));
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(content);
-    return path.toStdString();
+    return file.fileName().toStdString();
   }
-  std::string path() const { return dir_.path().toStdString(); }
-
- private:
-  QTemporaryDir dir_;
 };
 
 std::shared_ptr<HighlightJS> loadScript(const std::string& path, CapturingLogger& logger) {
   return HighlightJS::load({path, &logger, inlineExecutor()});
 }
 
-TEST(HighlightJSLoadTest, MissingScriptGivesNoHighlighterAndOneLine) {
-  CapturingLogger logger;
-  EXPECT_EQ(loadScript("/nonexistent/highlight.min.js", logger), nullptr);
-  EXPECT_EQ(logger.lines(),
-            (std::vector<LoggedLine>{
-                {LogLevel::log, "highlight.min.js not available, no code highlighting"}}));
+TEST(HighlightJSLoadTest, AFailedLoadGivesNoHighlighterAndLogsOneLine) {
+  const struct {
+    const char* script;  // null: the path is a directory; "": the path does not exist
+    LogLevel level;
+    std::string expectedStart;
+  } rows[] = {
+      {"", LogLevel::log, "highlight.min.js not available, no code highlighting"},
+      {"var = ;", LogLevel::error, "Highlight.js script evaluation failed: SyntaxError"},
+      {"throw new Error('boom');", LogLevel::error,
+       "Highlight.js script evaluation failed: Error: boom"},
+      {"var hljs = 1;", LogLevel::error, "could not locate Highlight.js in JSContext"},
+      {nullptr, LogLevel::error, "could not load highlight.js at: /"},
+  };
+  for (const auto& row : rows) {
+    ScriptDir dir;
+    CapturingLogger logger;
+    const std::string path = !row.script    ? dir.path().toStdString()
+                             : !*row.script ? "/nonexistent/highlight.min.js"
+                                            : dir.write(row.script);
+    EXPECT_EQ(loadScript(path, logger), nullptr) << row.expectedStart;
+    const auto lines = logger.lines();
+    ASSERT_EQ(lines.size(), 1u) << row.expectedStart;
+    EXPECT_EQ(lines[0].level, row.level);
+    EXPECT_TRUE(lines[0].text.starts_with(row.expectedStart)) << lines[0].text;
+  }
 }
-
-struct LoadFailureRow {
-  const char* name;
-  const char* script;  // null: the path is a directory
-  std::string expectedStart;
-};
-
-void PrintTo(const LoadFailureRow& row, std::ostream* out) {
-  *out << row.name;
-}
-
-class HighlightJSLoadFailureTest : public testing::TestWithParam<LoadFailureRow> {};
-
-TEST_P(HighlightJSLoadFailureTest, LogsOneErrorAndGivesNothing) {
-  ScriptDir dir;
-  CapturingLogger logger;
-  const std::string path = GetParam().script ? dir.write("s.js", GetParam().script) : dir.path();
-  EXPECT_EQ(loadScript(path, logger), nullptr);
-  const auto lines = logger.lines();
-  ASSERT_EQ(lines.size(), 1u);
-  EXPECT_EQ(lines[0].level, LogLevel::error);
-  EXPECT_TRUE(lines[0].text.starts_with(GetParam().expectedStart)) << lines[0].text;
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Scripts, HighlightJSLoadFailureTest,
-    testing::Values(LoadFailureRow{"syntaxError", "var = ;",
-                                   "Highlight.js script evaluation failed: SyntaxError"},
-                    LoadFailureRow{"throws", "throw new Error('boom');",
-                                   "Highlight.js script evaluation failed: Error: boom"},
-                    LoadFailureRow{"noHljs", "var hljs = 1;",
-                                   "could not locate Highlight.js in JSContext"},
-                    LoadFailureRow{"unreadable", nullptr, "could not load highlight.js at: /"}));
 
 class FakeHighlightJSTest : public testing::Test {
  protected:
   void SetUp() override {
-    highlighter = loadScript(dir.write("fake.js", kFakeScript), logger);
+    highlighter =
+        loadScript(Transcript::testsPath("Highlight/data/fake-highlight.js").string(), logger);
     ASSERT_NE(highlighter, nullptr);
     highlighter->waitUntilIdle();
   }
@@ -109,28 +77,21 @@ class FakeHighlightJSTest : public testing::Test {
     return out;
   }
 
-  ScriptDir dir;
   CapturingLogger logger;
   std::shared_ptr<HighlightJS> highlighter;
 };
 
-TEST_F(FakeHighlightJSTest, ListsLanguagesLowerCased) {
+TEST_F(FakeHighlightJSTest, ListsLanguagesLowerCasedAndConvertsTheScriptsSpans) {
   EXPECT_EQ(highlighter->languages(), (std::set<std::string>{"swift", "xml"}));
   EXPECT_EQ(logger.lines(),
             (std::vector<LoggedLine>{{LogLevel::log, "Highlight languages: swift, xml"}}));
-}
-
-TEST_F(FakeHighlightJSTest, ConvertsTheScriptsSpans) {
   const TextStyle keyword{RGBColor::fromHex(0x444444), false, {}, ThemeFont{"", {}, true}};
   const TextStyle plain{RGBColor::fromHex(0x444444), false, {}, ThemeFont{}};
   EXPECT_EQ(run(u"let", "swift"), styled({{u"let", keyword}, {u"<", plain}}));
   // No language, or an empty one, goes to automatic detection.
   EXPECT_EQ(run(u"let", std::nullopt), styled({{u"let", plain}}));
   EXPECT_EQ(run(u"let", ""), styled({{u"let", plain}}));
-  EXPECT_TRUE(errors().empty());
-}
-
-TEST_F(FakeHighlightJSTest, EmptyOutputGivesNothingWithoutComplaint) {
+  // Empty output gives nothing without complaint.
   EXPECT_EQ(run(u"", std::nullopt), std::nullopt);
   EXPECT_TRUE(errors().empty());
 }
@@ -186,8 +147,8 @@ TEST_F(FakeHighlightJSTest, CancelledItemThatHasNotStartedNeverRuns) {
 TEST(FakeHighlightJSListTest, FailedListingLeavesLanguagesEmpty) {
   ScriptDir dir;
   CapturingLogger logger;
-  auto highlighter = loadScript(
-      dir.write("list.js", "window.hljs = { listLanguages: function() { throw 1; } };"), logger);
+  auto highlighter =
+      loadScript(dir.write("window.hljs = { listLanguages: function() { throw 1; } };"), logger);
   ASSERT_NE(highlighter, nullptr);
   highlighter->waitUntilIdle();
   EXPECT_TRUE(highlighter->languages().empty());
@@ -206,17 +167,13 @@ class BundledHighlightJSTest : public testing::Test {
   static inline std::shared_ptr<HighlightJS> highlighter;
 };
 
-TEST_F(BundledHighlightJSTest, LoadsAndListsItsLanguages) {
+TEST_F(BundledHighlightJSTest, ListsItsLanguagesAndHighlightsSwiftKeepingTheText) {
   ASSERT_NE(highlighter, nullptr) << "the script resource is missing";
   highlighter->waitUntilIdle();
   const auto languages = highlighter->languages();
-  EXPECT_TRUE(languages.count("swift"));
-  EXPECT_TRUE(languages.count("xml"));
+  EXPECT_TRUE(languages.count("swift") && languages.count("xml"));
   EXPECT_GT(languages.size(), 100u);
-}
 
-TEST_F(BundledHighlightJSTest, HighlightsSwiftKeepingTheText) {
-  ASSERT_NE(highlighter, nullptr);
   const std::u16string source = u"struct A: View {\n  let s = \"a < b && c > d\" // note\n}\n";
   const auto result = highlighter->highlightAndWait(source, "swift", HighlightJSTheme::light());
   ASSERT_TRUE(result);
@@ -224,25 +181,21 @@ TEST_F(BundledHighlightJSTest, HighlightsSwiftKeepingTheText) {
   const TextStyle keyword = result->styleAt(0);  // "struct"
   ASSERT_TRUE(keyword.font);
   EXPECT_TRUE(keyword.font->bold);
-  const TextStyle comment = result->styleAt(source.find(u"// note"));
-  EXPECT_EQ(comment.foreground, RGBColor::fromHex(0x888888));
+  EXPECT_EQ(result->styleAt(source.find(u"// note")).foreground, RGBColor::fromHex(0x888888));
 }
 
-TEST_F(BundledHighlightJSTest, EmptyTextAndUnknownLanguageGiveNothing) {
-  ASSERT_NE(highlighter, nullptr);
-  EXPECT_EQ(highlighter->highlightAndWait(u"", std::nullopt, nullptr), std::nullopt);
-  EXPECT_EQ(highlighter->highlightAndWait(u"x", "no-such-language", nullptr), std::nullopt);
-  EXPECT_EQ(logger.lines().back().level, LogLevel::error);
-  EXPECT_TRUE(logger.lines().back().text.starts_with("could not highlight code:"));
-}
-
-TEST_F(BundledHighlightJSTest, DetectsTheLanguageWhenNoneIsGiven) {
+TEST_F(BundledHighlightJSTest, DetectsTheLanguageAndGivesNothingForEmptyTextOrAnUnknownOne) {
   ASSERT_NE(highlighter, nullptr);
   const std::u16string svg = u"<svg xmlns=\"http://www.w3.org/2000/svg\"><rect width=\"1\"/></svg>";
   const auto result = highlighter->highlightAndWait(svg, std::nullopt, HighlightJSTheme::dark());
   ASSERT_TRUE(result);
   EXPECT_EQ(result->text(), svg);
   EXPECT_GT(result->runs().size(), 3u);
+
+  EXPECT_EQ(highlighter->highlightAndWait(u"", std::nullopt, nullptr), std::nullopt);
+  EXPECT_EQ(highlighter->highlightAndWait(u"x", "no-such-language", nullptr), std::nullopt);
+  EXPECT_EQ(logger.lines().back().level, LogLevel::error);
+  EXPECT_TRUE(logger.lines().back().text.starts_with("could not highlight code:"));
 }
 
 }  // namespace

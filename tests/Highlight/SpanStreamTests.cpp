@@ -2,6 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+#include "FigurerUtilities/Transcript.h"
+#include "Highlight/Rendering.h"
 #include "TestSupport.h"
 
 namespace Highlight {
@@ -24,146 +29,50 @@ const HighlightJSTheme& testTheme() {
   return theme;
 }
 
-TextStyle style(std::uint32_t rgb, bool bold = false, bool italic = false, bool underline = false) {
-  TextStyle s;
-  s.foreground = RGBColor::fromHex(rgb);
-  s.font = ThemeFont{"Mono", 12.0, bold, italic && !bold};
-  if (underline) {
-    s.underline = true;
-    s.underlineColor = s.foreground;
-  }
-  return s;
+// Each input is read as highlight.js output with the theme above: the runs it gives, or the
+// reason the whole result is dropped.
+TEST(SpanStreamTest, ConvertsToStyledRunsOrDropsTheWholeResult) {
+  Transcript::expect("Highlight/data/span-stream.txt", [](const std::string& html) {
+    const SpanStreamResult result = styledTextFromHTML(fromUTF8(html), testTheme());
+    if (const auto* error = std::get_if<SpanStreamError>(&result)) {
+      return "> dropped: " + error->message + "\n";
+    }
+    std::ostringstream runs;
+    PrintTo(std::get<StyledText>(result), &runs);
+    std::string text = runs.str();
+    for (std::size_t nul; (nul = text.find('\0')) != std::string::npos;)
+      text.replace(nul, 1, "\\0");
+    return "> " + text + "\n";
+  });
 }
 
-const TextStyle D = style(1);
-const TextStyle K = style(1, true);
-const TextStyle S = style(2);
-const TextStyle SK = style(2, true);
-const TextStyle CM = style(3, false, true);
-const TextStyle CK = style(3, true, true);
-const TextStyle L = style(4, false, false, true);
-const TextStyle NONE{};
-
-struct SpanRow {
-  const char* name;
-  std::u16string html;
-  StyledText expected;
-};
-
-void PrintTo(const SpanRow& row, std::ostream* out) {
-  *out << row.name;
+// The renderings of highlighted text (given as highlight.js output, read with the theme above)
+// for a terminal, for a web page (also over a dark background) and as JSON runs.
+TEST(RenderingTest, TerminalPageAndJSON) {
+  Transcript::expect("Highlight/data/rendering.txt", [](const std::string& html) {
+    const auto text =
+        std::get<StyledText>(styledTextFromHTML(fromUTF8(Transcript::unescape(html)), testTheme()));
+    return "> plain: " + Transcript::escape(renderPlain(text)) +
+           "\n> ansi: " + Transcript::escape(renderANSI(text)) +
+           "\n> html: " + Transcript::escape(renderHTML(text)) + "\n> html on #1E1E1E: " +
+           Transcript::escape(renderHTML(text, RGBColor::fromHex(0x1E1E1E))) +
+           "\n> json: " + nlohmann::json::parse(renderRunsJSON(text)).dump() + "\n";
+  });
 }
 
-class SpanStreamTest : public testing::TestWithParam<SpanRow> {};
-
-TEST_P(SpanStreamTest, ConvertsToStyledRuns) {
-  const SpanStreamResult result = styledTextFromHTML(GetParam().html, testTheme());
-  ASSERT_TRUE(std::holds_alternative<StyledText>(result))
-      << std::get<SpanStreamError>(result).message;
-  EXPECT_EQ(std::get<StyledText>(result), GetParam().expected);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Spans, SpanStreamTest,
-    testing::Values(
-        SpanRow{"plain", u"let x", styled({{u"let x", D}})},
-        SpanRow{"nested",
-                u"<span class=\"hljs-string\">a<span class=\"hljs-keyword\">b</span>c</span>d",
-                styled({{u"a", S}, {u"b", SK}, {u"c", S}, {u"d", D}})},
-        SpanRow{"innerBoldOuterItalicGivesBold",
-                u"<span class=\"hljs-comment\">x<span class=\"hljs-keyword\">y</span></span>",
-                styled({{u"x", CM}, {u"y", CK}})},
-        SpanRow{"underlineTakesTheColour", u"<span class=\"hljs-link\">u</span>",
-                styled({{u"u", L}})},
-        SpanRow{"unknownClassKeepsTheStackBalanced", u"<span class=\"nope\">x</span>y",
-                styled({{u"xy", D}})},
-        SpanRow{"classWithSeveralWordsSelectsNothing",
-                u"<span class=\"hljs-keyword extra\">x</span>", styled({{u"x", D}})},
-        SpanRow{"emptyClass", u"<span class=\"\">x</span>y", styled({{u"xy", D}})},
-        SpanRow{"strayLessThanLosesTheNextCharacter", u"a<bc", styled({{u"a<c", D}})},
-        SpanRow{"strayLessThanInsideASpan", u"<span class=\"hljs-keyword\">a<b</span>c",
-                styled({{u"a<", K}, {u"c", D}})},
-        SpanRow{"lessThanAtTheEnd", u"a<", styled({{u"a<", D}})},
-        SpanRow{"closingTheDefaultLeavesNoAttributes", u"a</span>b",
-                styled({{u"a", D}, {u"b", NONE}})},
-        SpanRow{"unclosedSpanStart", u"a<span class=\"hljs-keyword", styled({{u"a", D}})},
-        SpanRow{"empty", u"", StyledText()},
-        SpanRow{"namedEntitiesKeepTheRunAttributes",
-                u"<span class=\"hljs-string\">&lt;b&gt;</span>", styled({{u"<b>", S}})},
-        SpanRow{"numericEntities", u"&#65;&#x41;&#X41;", styled({{u"AAA", D}})},
-        SpanRow{"unknownEntityStays", u"&unknown; &LT;", styled({{u"&unknown; &LT;", D}})},
-        SpanRow{"notEntities", u"&#; &; & amp;", styled({{u"&#; &; & amp;", D}})},
-        SpanRow{"decodedOnce", u"&amp;lt; &&amp;", styled({{u"&lt; &&", D}})},
-        SpanRow{"entityAcrossSpansTakesTheFirstStyle",
-                u"&am<span class=\"hljs-keyword\">p;</span>x", styled({{u"&x", D}})},
-        SpanRow{"hexWithoutDigitsIsNul", u"&#xzz;", styled({{std::u16string(1, u'\0'), D}})},
-        SpanRow{"astralReplacementShiftsLaterMatches", u"&#128512;&lt;",
-                styled({{u"\U0001F600&lt;", D}})},
-        SpanRow{"largestScalar", u"&#1114111;", styled({{u"\U0010FFFF", D}})}));
-
-struct ErrorRow {
-  const char* name;
-  std::u16string html;
-};
-
-void PrintTo(const ErrorRow& row, std::ostream* out) {
-  *out << row.name;
-}
-
-class SpanStreamErrorTest : public testing::TestWithParam<ErrorRow> {};
-
-TEST_P(SpanStreamErrorTest, DropsTheWholeResult) {
-  EXPECT_TRUE(
-      std::holds_alternative<SpanStreamError>(styledTextFromHTML(GetParam().html, testTheme())));
-}
-
-INSTANTIATE_TEST_SUITE_P(Malformed, SpanStreamErrorTest,
-                         testing::Values(ErrorRow{"popFromEmptyStack", u"a</span></span>b"},
-                                         ErrorRow{"aboveUnicode", u"ok &#x110000;"},
-                                         ErrorRow{"surrogate", u"&#xD800;"},
-                                         ErrorRow{"lowSurrogateDecimal", u"&#57343;"},
-                                         ErrorRow{"overflowing", u"&#99999999999999999999999;"}));
-
-struct EntityRow {
-  std::u16string entity;
-  std::optional<std::u16string> decoded;  // none: left as it is
-};
-
-void PrintTo(const EntityRow& row, std::ostream* out) {
-  *out << toUTF8(row.entity);
-}
-
-class EntityTest : public testing::TestWithParam<EntityRow> {};
-
-TEST_P(EntityTest, Decodes) {
-  const EntityDecoding result = decodeHTMLEntity(GetParam().entity);
-  if (GetParam().decoded) {
-    ASSERT_TRUE(std::holds_alternative<std::u16string>(result));
-    EXPECT_EQ(std::get<std::u16string>(result), *GetParam().decoded);
-  } else {
-    EXPECT_TRUE(std::holds_alternative<EntityNotDecoded>(result));
-  }
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Entities, EntityTest,
-    testing::Values(EntityRow{u"&lt;", u"<"}, EntityRow{u"&gt;", u">"}, EntityRow{u"&amp;", u"&"},
-                    EntityRow{u"&quot;", u"\""}, EntityRow{u"&apos;", u"'"},
-                    EntityRow{u"&nbsp;", u"\u00A0"}, EntityRow{u"&AElig;", u"\u00C6"},
-                    EntityRow{u"&aelig;", u"\u00E6"}, EntityRow{u"&yuml;", u"\u00FF"},
-                    EntityRow{u"&Yuml;", u"\u0178"}, EntityRow{u"&thetasym;", u"\u03D1"},
-                    EntityRow{u"&euro;", u"\u20AC"}, EntityRow{u"&diams;", u"\u2666"},
-                    EntityRow{u"&rsaquo;", u"\u203A"}, EntityRow{u"&Amp;", std::nullopt},
-                    EntityRow{u"&hellip", std::nullopt}, EntityRow{u"&bogus;", std::nullopt},
-                    EntityRow{u"lt;", std::nullopt}, EntityRow{u"&#65;", u"A"},
-                    EntityRow{u"&#x41;", u"A"}, EntityRow{u"&#X41;", u"A"},
-                    EntityRow{u"&#x41zz;", u"A"}, EntityRow{u"&#0065;", u"A"},
-                    EntityRow{u"&#xe000;", u"\uE000"}, EntityRow{u"&#xFFFF;", u"\uFFFF"},
-                    EntityRow{u"&#x1F600;", u"\U0001F600"}));
-
-TEST(EntityTest, InvalidScalarsAreReportedWithTheirValue) {
-  EXPECT_EQ(decodeHTMLEntity(u"&#x110000;"), EntityDecoding(InvalidScalar{0x110000}));
-  EXPECT_EQ(decodeHTMLEntity(u"&#xDC00;"), EntityDecoding(InvalidScalar{0xDC00}));
+// Each input is one entity: what it decodes to, or that it is left as it is, or the number that
+// names no Unicode scalar value.
+TEST(EntityTest, DecodesOrLeavesAsItIs) {
+  Transcript::expect("Highlight/data/entities.txt", [](const std::string& entity) {
+    const EntityDecoding result = decodeHTMLEntity(fromUTF8(entity));
+    if (const auto* text = std::get_if<std::u16string>(&result)) {
+      return "> " + Transcript::escape(toUTF8(*text)) + "\n";
+    }
+    if (const auto* invalid = std::get_if<InvalidScalar>(&result)) {
+      return "> invalid scalar " + std::to_string(invalid->value) + "\n";
+    }
+    return std::string("> left as it is\n");
+  });
 }
 
 TEST(StyledTextTest, ReplaceKeepsTheStyleOfTheFirstReplacedCharacterAndMergesRuns) {

@@ -1,13 +1,16 @@
-// Printing and building styled text in tests.
+// Printing and building styled text in tests, and a highlighter that answers when told.
 #pragma once
 
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "Highlight/HighlightJS.h"
 #include "Highlight/StyledText.h"
 
 namespace Highlight {
@@ -18,8 +21,9 @@ inline void PrintTo(const TextStyle& style, std::ostream* out) {
   if (style.underline) *out << " underline";
   if (style.underlineColor) *out << " ul " << style.underlineColor->hex();
   if (style.font) {
-    *out << " font '" << style.font->family << "'" << (style.font->bold ? " bold" : "")
-         << (style.font->italic ? " italic" : "");
+    *out << " font '" << style.font->family << "'";
+    if (style.font->pointSize) *out << " " << *style.font->pointSize << "pt";
+    *out << (style.font->bold ? " bold" : "") << (style.font->italic ? " italic" : "");
   }
   *out << "}";
 }
@@ -41,5 +45,27 @@ inline StyledText styled(std::vector<std::pair<std::u16string, TextStyle>> runs)
   for (const auto& [text, style] : runs) out.append(text, style);
   return out;
 }
+
+// Records the requests; the test decides when and with what each one completes.
+class RecordingHighlighter final : public Highlighter {
+ public:
+  struct Request {
+    std::u16string text;
+    std::optional<std::string> language;
+    std::shared_ptr<const HighlightJSTheme> theme;
+    Completion completion;
+    std::shared_ptr<WorkItem> item;
+    bool answered = false;
+  };
+  std::shared_ptr<WorkItem> highlight(std::u16string text, std::optional<std::string> language,
+                                      std::shared_ptr<const HighlightJSTheme> theme, Executor,
+                                      Completion completion) override {
+    auto item = std::make_shared<WorkItem>();
+    requests.push_back(
+        {std::move(text), std::move(language), std::move(theme), std::move(completion), item});
+    return item;
+  }
+  std::vector<Request> requests;
+};
 
 }  // namespace Highlight

@@ -1,5 +1,6 @@
-// Shared pieces of the document tests: a logger that records its lines, a temporary folder,
-// and an environment wired to both so that no test touches the user's settings.
+// Shared pieces of the document tests: a logger that records its lines, a temporary folder, an
+// environment wired to both so that no test touches the user's settings, and a controller that
+// opens documents the way the window manager does.
 #pragma once
 
 #include <unistd.h>
@@ -13,9 +14,13 @@
 #include <vector>
 
 #include "CoreS/Logger.h"
+#include "SVGFigurerApp/DocumentController.h"
 #include "SVGFigurerApp/SVGFigurerApp.h"
 
 namespace AppTest {
+
+inline const std::string circleSVG =
+    R"(<svg xmlns="http://www.w3.org/2000/svg" width="20" height="20"><circle r="5"/></svg>)";
 
 struct LogLine {
   CoreS::LogLevel level;
@@ -93,6 +98,26 @@ struct Fixture {
             SVGParser::Report([this](std::string_view line) { reportLines.emplace_back(line); })};
   }
   SVGFigurerApp::DefaultsStore& store() { return defaults.store(); }
+};
+
+// The whole-text generation, as the reference for what every other path must produce.
+inline std::string expectedSwift(std::string_view svg,
+                                 const SVGFigurerApp::SVGFigurerConfiguration& config) {
+  RecordingLogger log;
+  return SVGFigurerApp::generateSwift(svg, config, log).text;
+}
+
+// Opens documents as the window manager does: the new document takes the front pending record.
+struct FakeController final : SVGFigurerApp::DocumentController {
+  explicit FakeController(SVGFigurerApp::PendingDocumentQueue& queue) : queue(&queue) {}
+  std::optional<std::string> openUntitledDocument() override {
+    if (failWith) return failWith;
+    opened.push_back(queue->takeFront().value_or(SVGFigurerApp::Snapshot{}));
+    return std::nullopt;
+  }
+  SVGFigurerApp::PendingDocumentQueue* queue;
+  std::optional<std::string> failWith;
+  std::vector<SVGFigurerApp::Snapshot> opened;
 };
 
 }  // namespace AppTest

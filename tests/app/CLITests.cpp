@@ -12,8 +12,11 @@
 #include <vector>
 
 #include "AppTestSupport.h"
+#include "FigurerUtilities/Transcript.h"
 
 using namespace SVGFigurerApp;
+using AppTest::circleSVG;
+using AppTest::expectedSwift;
 
 namespace {
 
@@ -29,12 +32,20 @@ std::string quoted(const std::string& text) {
   return result + "'";
 }
 
+std::vector<std::string> linesOf(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream in(text);
+  for (std::string line; std::getline(in, line);) lines.push_back(line);
+  return lines;
+}
+
 class CLITest : public testing::Test {
  protected:
   AppTest::TemporaryFolder folder;
   std::filesystem::path config() const { return folder.path() / "config"; }
   std::filesystem::path file(const std::string& name, std::string_view contents) const {
     const auto path = folder.path() / name;
+    std::filesystem::create_directories(path.parent_path());
     AppTest::writeFile(path, contents);
     return path;
   }
@@ -59,75 +70,41 @@ class CLITest : public testing::Test {
     result.err = AppTest::readFile(errPath);
     return result;
   }
-
-  static std::string expectedSwift(std::string_view svg, const SVGFigurerConfiguration& config) {
-    AppTest::RecordingLogger log;
-    return generateSwift(svg, config, log).text;
-  }
 };
 
-const std::string circleSVG =
-    R"(<svg xmlns="http://www.w3.org/2000/svg" width="20" height="20"><circle r="5"/></svg>)";
-
-TEST_F(CLITest, ConvertPrintsExactlyTheGeneratedText) {
+TEST_F(CLITest, ConvertPrintsExactlyTheGeneratedTextAndFlagsOverrideTheStartingSettings) {
   const auto path = file("default.svg", defaultDocumentSVG);
   const auto result = run({"convert", path.string()}, "LOGLEVEL=trace");
   EXPECT_EQ(result.exitCode, 0);
   EXPECT_EQ(result.out, expectedSwift(defaultDocumentSVG, SVGFigurerConfiguration::fresh()));
   EXPECT_NE(result.err.find("rebuilding SVG ..."), std::string::npos) << "logs go to stderr";
+
+  // Each row's flags and the settings, by key, that they stand for.
+  using Settings = std::vector<std::pair<std::string, std::string>>;
+  const std::pair<std::vector<std::string>, Settings> rows[] = {
+      {{"--no-prefix-svg"}, {{"prefixSVG", "false"}}},
+      {{"--indent-using", "tabs", "--indent", "1"}, {{"indentUsing", "tabs"}, {"indent", "1"}}},
+      {{"--root-view-name", "Dot", "--max-fraction-digits", "1"},
+       {{"rootViewName", "Dot"}, {"maximumFractionDigits", "1"}}},
+      {{"--no-imports", "--no-preview-provider", "--no-info-comments"},
+       {{"imports", "false"}, {"previewProvider", "false"}, {"infoComments", "false"}}},
+      {{"--hex-colors", "--indent-empty-lines", "--no-newline-after-close-path"},
+       {{"useHexColor", "true"}, {"indentEmptyLines", "true"}, {"newlineAfterClosePath", "false"}}},
+      {{"--init-type", "init", "--positioning", "offset"},
+       {{"initType", "init"}, {"positioningType", "offset"}}},
+  };
+  const auto circle = file("c.svg", circleSVG);
+  for (auto [arguments, settings] : rows) {
+    auto expected = SVGFigurerConfiguration::fresh();
+    for (const auto& [key, value] : settings)
+      ASSERT_FALSE(setConfigurationValue(expected, key, value));
+    arguments.insert(arguments.begin(), "convert");
+    arguments.push_back(circle.string());
+    const auto flagged = run(arguments);
+    EXPECT_EQ(flagged.exitCode, 0) << arguments[1] << flagged.err;
+    EXPECT_EQ(flagged.out, expectedSwift(circleSVG, expected)) << arguments[1];
+  }
 }
-
-struct FlagRow {
-  const char* name;
-  std::vector<std::string> flags;
-  std::function<void(SVGFigurerConfiguration&)> apply;
-};
-
-class ConvertFlags : public CLITest, public testing::WithParamInterface<FlagRow> {};
-
-TEST_P(ConvertFlags, OverrideTheStartingSettings) {
-  const auto path = file("c.svg", circleSVG);
-  auto arguments = GetParam().flags;
-  arguments.insert(arguments.begin(), "convert");
-  arguments.push_back(path.string());
-  auto config = SVGFigurerConfiguration::fresh();
-  GetParam().apply(config);
-  const auto result = run(arguments);
-  EXPECT_EQ(result.exitCode, 0) << result.err;
-  EXPECT_EQ(result.out, expectedSwift(circleSVG, config));
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Rows, ConvertFlags,
-    testing::Values(FlagRow{"NoPrefix", {"--no-prefix-svg"}, [](auto& c) { c.prefixSVG = false; }},
-                    FlagRow{"TabsOfOne",
-                            {"--indent-using", "tabs", "--indent", "1"},
-                            [](auto& c) {
-                              c.indentUsing = IndentType::tabs;
-                              c.indent = 1;
-                            }},
-                    FlagRow{"RootAndDigits",
-                            {"--root-view-name", "Dot", "--max-fraction-digits", "1"},
-                            [](auto& c) {
-                              c.rootViewName = "Dot";
-                              c.maximumFractionDigits = 1;
-                            }},
-                    FlagRow{
-                        "Switches",
-                        {"--no-imports", "--no-preview-provider", "--no-info-comments",
-                         "--hex-colors", "--indent-empty-lines", "--no-newline-after-close-path"},
-                        [](auto& c) {
-                          c.imports = c.previewProvider = c.infoComments = false;
-                          c.useHexColor = c.indentEmptyLines = true;
-                          c.newlineAfterClosePath = false;
-                        }},
-                    FlagRow{"InitAndOffset",
-                            {"--init-type", "init", "--positioning", "offset"},
-                            [](auto& c) {
-                              c.initType = InitType::autoInit;
-                              c.positioningType = PositioningStyle::offset;
-                            }}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(CLITest, ConvertStartsFromTheSavedDefaultUnlessFresh) {
   const auto path = file("c.svg", circleSVG);
@@ -145,10 +122,6 @@ TEST_F(CLITest, ConvertStartsFromTheSavedDefaultUnlessFresh) {
   fromFile.maximumFractionDigits = 2;
   EXPECT_EQ(run({"convert", "--config", settings.string(), path.string()}).out,
             expectedSwift(circleSVG, fromFile));
-  const auto bad = file("bad.json", R"({"indent":1})");
-  const auto refused = run({"convert", "--config", bad.string(), path.string()});
-  EXPECT_EQ(refused.exitCode, 2);
-  EXPECT_EQ(refused.out, "");
 }
 
 // An arc with a rotated ellipse, an unknown colour name and a "*/" for the header comment.
@@ -171,68 +144,27 @@ TEST_F(CLITest, CompilableSwiftCorrectsWhatTheNoteNames) {
   EXPECT_EQ(corrected.exitCode, 0);
   EXPECT_EQ(corrected.out, expectedSwift(defectiveSVG, compilable));
   EXPECT_EQ(corrected.err, "");
-  for (const char* text : {"Angle(radians: 3.1416), transform: ", ".rotated(by: 0.5236)",
-                           "Color.clear /*unknown: qwe */", "<!-- * / -->"}) {
-    EXPECT_NE(corrected.out.find(text), std::string::npos) << text;
-  }
+  EXPECT_NE(corrected.out, asStored.out);
 }
 
-struct UsageRow {
-  const char* name;
-  std::vector<std::string> arguments;
-  const char* message;
-};
-
-class UsageErrors : public CLITest, public testing::WithParamInterface<UsageRow> {};
-
-TEST_P(UsageErrors, ExitTwoWithTheReasonAndAPointerToHelp) {
-  const auto result = run(GetParam().arguments);
-  EXPECT_EQ(result.exitCode, 2);
-  EXPECT_EQ(result.out, "");
-  EXPECT_NE(result.err.find(GetParam().message), std::string::npos) << result.err;
-  EXPECT_NE(result.err.find("--help"), std::string::npos) << result.err;
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Rows, UsageErrors,
-    testing::Values(UsageRow{"BadInteger", {"convert", "--indent", "abc"}, "--indent"},
-                    UsageRow{"UnknownOption", {"convert", "--bogus"}, "--bogus"},
-                    UsageRow{"BadEnumValue", {"convert", "--indent-using", "weird"}, "weird"},
-                    UsageRow{"UnknownSubcommand", {"bogus"}, "subcommand"},
-                    UsageRow{"NoSubcommand", {}, "subcommand"}),
-    [](const auto& info) { return std::string(info.param.name); });
-
-TEST_F(CLITest, ConvertOfTextThatIsNotSVGExitsOne) {
-  const auto path = file("x.svg", "not svg");
-  const auto result = run({"convert", path.string()});
-  EXPECT_EQ(result.exitCode, 1);
-  EXPECT_EQ(result.out, "// Could not parse SVG\n");
-  const auto empty = run({"convert", file("e.svg", " \n").string()});
-  EXPECT_EQ(empty.exitCode, 0);
-  EXPECT_EQ(empty.out, "// Empty SVG\n");
-}
-
-TEST_F(CLITest, BatchWritesOneFilePerInputAndNamesEachFailure) {
-  const auto good = file("my-icon_2.svg", circleSVG);
-  const auto other = file("24px.svg", circleSVG);
-  const auto bad = file("broken.svg", "<svg");
-  const auto out = folder.path() / "out";
-  const auto result = run({"convert", "--no-prefix-svg", "-o", out.string(), good.string(),
-                           bad.string(), "missing.svg", other.string()});
-  EXPECT_EQ(result.exitCode, 1);
-  EXPECT_EQ(result.out, "");
-  EXPECT_NE(result.err.find("broken.svg"), std::string::npos) << result.err;
-  EXPECT_NE(result.err.find("missing.svg"), std::string::npos) << result.err;
-  auto config = SVGFigurerConfiguration::fresh();
-  config.prefixSVG = false;
-  config.rootViewName = "MyIcon2";
-  EXPECT_EQ(AppTest::readFile(out / "my-icon_2.swift"), expectedSwift(circleSVG, config));
-  config.rootViewName = "Z24px";
-  EXPECT_EQ(AppTest::readFile(out / "24px.swift"), expectedSwift(circleSVG, config));
-  EXPECT_FALSE(std::filesystem::exists(out / "broken.swift"));
-
-  const auto clean = run({"convert", "-o", out.string(), good.string()});
-  EXPECT_EQ(clean.exitCode, 0) << clean.err;
+TEST_F(CLITest, ExitStatusesAndWhatComesWithThem) {
+  file("x.svg", "not svg");
+  file("e.svg", " \n");
+  file("a.txt", "hello");
+  file("bad.json", R"({"indent":1})");
+  file("list.txt", file("c.svg", circleSVG).string() + "\n");
+  Transcript::expect("app/data/cli-exit-statuses.txt", [&](const std::string& input) {
+    std::vector<std::string> arguments;
+    std::istringstream words(input);
+    for (std::string word; words >> word;) arguments.push_back(word);
+    const auto result = run(arguments);
+    const auto shown = [](const std::string& text) {
+      return text.empty() ? std::string() : " " + Transcript::escape(text);
+    };
+    return "> exit " + std::to_string(result.exitCode) + "\n> out:" + shown(result.out) +
+           "\n> err:" + shown(result.err) + "\n";
+  });
+  EXPECT_FALSE(std::filesystem::exists(config())) << "refused settings store nothing";
 }
 
 // Every file of a folder, by name, with its contents.
@@ -244,20 +176,9 @@ std::map<std::string, std::string> folderContents(const std::filesystem::path& f
   return files;
 }
 
-std::vector<std::string> linesOf(const std::string& text) {
-  std::vector<std::string> lines;
-  std::size_t start = 0;
-  while (start < text.size()) {
-    const std::size_t end = std::min(text.find('\n', start), text.size());
-    lines.push_back(text.substr(start, end - start));
-    start = end + 1;
-  }
-  return lines;
-}
-
 // Inputs of every kind a batch meets: equal stems in different folders (and a stem that looks
-// like a numbered one), text that does not parse, a missing file, a document with many report
-// lines, and enough work for several threads.
+// like a numbered one), stems that are no Swift names as they stand, text that does not parse, a
+// missing file, a document with many report lines, and enough work for several threads.
 class BatchTest : public CLITest {
  protected:
   std::vector<std::string> inputs;
@@ -268,13 +189,10 @@ class BatchTest : public CLITest {
     for (int i = 0; i < 200; ++i) many += "<use/><circle r=\"" + std::to_string(i) + "\"/>";
     many += "</svg>";
     const std::vector<std::pair<std::string, std::string>> files = {
-        {"a/icon.svg", circleSVG}, {"b/icon.svg", many}, {"c/icon-2.svg", circleSVG},
-        {"broken.svg", "<svg"},    {"d/many.svg", many}, {"e/dot.svg", circleSVG},
-        {"f/icon.svg", circleSVG}};
-    for (const auto& [name, contents] : files) {
-      std::filesystem::create_directories((folder.path() / name).parent_path());
-      inputs.push_back(file(name, contents).string());
-    }
+        {"a/icon.svg", circleSVG}, {"b/icon.svg", many},     {"c/icon-2.svg", circleSVG},
+        {"broken.svg", "<svg"},    {"d/many.svg", many},     {"e/my-icon_2.svg", circleSVG},
+        {"f/icon.svg", circleSVG}, {"g/24px.svg", circleSVG}};
+    for (const auto& [name, contents] : files) inputs.push_back(file(name, contents).string());
     inputs.insert(inputs.begin() + 4, (folder.path() / "missing.svg").string());
     for (const auto& input : inputs) list += input + "\n";
   }
@@ -301,12 +219,17 @@ TEST_F(BatchTest, ThreadsChangeNeitherTheFilesNorTheSummary) {
 
   std::vector<std::string> names;
   for (const auto& [name, contents] : files) names.push_back(name);
-  EXPECT_EQ(names, (std::vector<std::string>{"dot.swift", "icon-2-2.swift", "icon-2.swift",
-                                             "icon-3.swift", "icon.swift", "many.swift"}));
+  EXPECT_EQ(names, (std::vector<std::string>{"24px.swift", "icon-2-2.swift", "icon-2.swift",
+                                             "icon-3.swift", "icon.swift", "many.swift",
+                                             "my-icon_2.swift"}));
+  // Each view is named after its file, the way a Swift name may be written.
   auto config = SVGFigurerConfiguration::fresh();
-  config.rootViewName = "Icon22";
-  EXPECT_EQ(files.at("icon-2-2.swift"), expectedSwift(circleSVG, config))
-      << "a later input named like a numbered stem gets the next free name, and its view too";
+  for (const auto& [name, view] :
+       {std::pair{"icon-2-2.swift", "Icon22"}, std::pair{"my-icon_2.swift", "MyIcon2"},
+        std::pair{"24px.swift", "Z24px"}}) {
+    config.rootViewName = view;
+    EXPECT_EQ(files.at(name), expectedSwift(circleSVG, config)) << name;
+  }
 
   // The summary is everything after the last report line: the same for any number of threads.
   const auto summaryOf = [](const std::string& err) {
@@ -314,7 +237,7 @@ TEST_F(BatchTest, ThreadsChangeNeitherTheFilesNorTheSummary) {
   };
   EXPECT_EQ(summaryOf(one.err), summaryOf(three.err));
   EXPECT_EQ(summaryOf(one.err),
-            "svgfigurer: 2 of 8 inputs failed:\n  " + inputs[3] + "\n  " + inputs[4] + "\n");
+            "svgfigurer: 2 of 9 inputs failed:\n  " + inputs[3] + "\n  " + inputs[4] + "\n");
   for (const auto* err : {&one.err, &three.err}) {
     const auto lines = linesOf(*err);
     const auto has = [&](const std::string& line) {
@@ -324,34 +247,34 @@ TEST_F(BatchTest, ThreadsChangeNeitherTheFilesNorTheSummary) {
     EXPECT_TRUE(has("svgfigurer: " + inputs[4] + ": cannot read: No such file or directory"));
     EXPECT_EQ(std::count(lines.begin(), lines.end(), "OTHER: use [:]"), 400) << "whole lines only";
   }
+  const auto clean = run({"convert", "-o", (folder.path() / "one").string(), inputs[0]});
+  EXPECT_EQ(clean.exitCode, 0) << clean.err;
 }
 
 TEST_F(BatchTest, TimingsHaveALinePerInputInInputOrder) {
   const auto timings = folder.path() / "timings.tsv";
-  const auto result = batch("out", "2", {"--timings", timings.string()});
-  EXPECT_EQ(result.exitCode, 1);
-  const auto lines = linesOf(AppTest::readFile(timings));
-  ASSERT_GE(lines.size(), inputs.size());
+  EXPECT_EQ(batch("out", "2", {"--timings", timings.string()}).exitCode, 1);
+  // The seconds are whatever they were; the rest of each line is known.
+  std::vector<std::string> lines, expected;
+  for (auto line : linesOf(AppTest::readFile(timings))) {
+    const auto seconds = line.find('\t', line.find('\t') + 1) + 1;
+    const auto end = line.find('\t', seconds);
+    if (line.starts_with("#")) {
+      lines.push_back(line.substr(0, line.find('\t')));
+      continue;
+    }
+    EXPECT_GE(std::stod(line.substr(seconds, end - seconds)), 0.0) << line;
+    lines.push_back(line.replace(seconds, end - seconds, "S"));
+  }
   for (std::size_t i = 0; i < inputs.size(); ++i) {
-    std::vector<std::string> fields;
-    std::stringstream row(lines[i]);
-    for (std::string field; std::getline(row, field, '\t');) fields.push_back(field);
-    ASSERT_EQ(fields.size(), 4u) << lines[i];
-    EXPECT_EQ(fields[0], inputs[i]);
     const auto bytes = i == 4 ? 0 : std::filesystem::file_size(inputs[i]);
-    EXPECT_EQ(fields[1], std::to_string(bytes));
-    EXPECT_GE(std::stod(fields[2]), 0.0);
-    const char* status = i == 3   ? "failed: could not parse SVG"
-                         : i == 4 ? "failed: cannot read: No such file or directory"
-                                  : "ok";
-    EXPECT_EQ(fields[3], status);
+    expected.push_back(inputs[i] + "\t" + std::to_string(bytes) + "\tS\t" +
+                       (i == 3   ? "failed: could not parse SVG"
+                        : i == 4 ? "failed: cannot read: No such file or directory"
+                                 : "ok"));
   }
-  std::vector<std::string> keys;
-  for (std::size_t i = inputs.size(); i < lines.size(); ++i) {
-    keys.push_back(lines[i].substr(0, lines[i].find('\t')));
-  }
-  EXPECT_EQ(keys,
-            (std::vector<std::string>{"#jobs", "#wall-seconds", "#cpu-seconds", "#peak-rss-kb"}));
+  expected.insert(expected.end(), {"#jobs", "#wall-seconds", "#cpu-seconds", "#peak-rss-kb"});
+  EXPECT_EQ(lines, expected);
 }
 
 TEST_F(CLITest, BatchEndsWithStatus124WhenAFileTakesTooLong) {
@@ -371,59 +294,39 @@ TEST_F(CLITest, BatchEndsWithStatus124WhenAFileTakesTooLong) {
   EXPECT_FALSE(std::filesystem::exists(folder.path() / "out" / "big.swift"));
 }
 
-TEST_F(CLITest, FilesFromNeedsAnOutputFolder) {
-  const auto list = file("list.txt", file("c.svg", circleSVG).string() + "\n");
-  EXPECT_EQ(run({"convert", "--files-from", list.string()}).exitCode, 2);
-  EXPECT_EQ(run({"convert", "-o", "out", "--files-from", "absent.txt"}).exitCode, 2);
-}
-
-TEST_F(CLITest, InspectShowsTheOpenedDocument) {
-  const auto path = file("c.svg", circleSVG);
-  const auto result = run({"inspect", path.string()});
-  ASSERT_EQ(result.exitCode, 0) << result.err;
-  const auto json = nlohmann::json::parse(result.out);
-  EXPECT_EQ(json["svg"], circleSVG);
-  EXPECT_EQ(json["edited"], true);
-  EXPECT_EQ(json["rebuildFailed"], false);
-  EXPECT_EQ(json["generatedSwift"], expectedSwift(circleSVG, SVGFigurerConfiguration::fresh()));
-  EXPECT_EQ(run({"inspect", "nothing-here.svg"}).exitCode, 2);
-  EXPECT_EQ(run({"inspect", file("a.txt", "hello").string()}).exitCode, 1);
-}
-
 TEST_F(CLITest, NewSavesADocumentThatInspectReadsBack) {
   const auto path = file("c.svg", circleSVG);
+  const auto inspected = nlohmann::json::parse(run({"inspect", path.string()}).out);
+  EXPECT_EQ(inspected["svg"], circleSVG);
+  EXPECT_EQ(inspected["edited"], true);
+  EXPECT_EQ(inspected["rebuildFailed"], false);
+  EXPECT_EQ(inspected["generatedSwift"],
+            expectedSwift(circleSVG, SVGFigurerConfiguration::fresh()));
+
   const auto document = folder.path() / "c.svgfigurer";
   ASSERT_EQ(run({"new", path.string(), "-o", document.string()}).exitCode, 0);
   const auto snapshot = decodeSnapshot(AppTest::readFile(document));
   ASSERT_TRUE(snapshot) << snapshot.error;
   EXPECT_EQ(snapshot.value->svg, circleSVG);
   EXPECT_EQ(snapshot.value->config, SVGFigurerConfiguration::fresh());
-  const auto inspected = nlohmann::json::parse(run({"inspect", document.string()}).out);
-  EXPECT_EQ(inspected["swift"], snapshot.value->swift);
+  EXPECT_EQ(nlohmann::json::parse(run({"inspect", document.string()}).out)["swift"],
+            snapshot.value->swift);
 }
 
-TEST_F(CLITest, ConfigSetAndReset) {
+TEST_F(CLITest, ConfigSetAndResetAndSamples) {
   EXPECT_EQ(nlohmann::json::parse(run({"config"}).out), toJSON(SVGFigurerConfiguration::fresh()));
   EXPECT_FALSE(std::filesystem::exists(config())) << "reading stores nothing";
   ASSERT_EQ(run({"config", "set", "indentUsing", "tabs"}).exitCode, 0);
-  const auto shown = nlohmann::json::parse(run({"config"}).out);
-  EXPECT_EQ(shown["indentUsing"], "\t");
+  EXPECT_EQ(nlohmann::json::parse(run({"config"}).out)["indentUsing"], "\t");
   EXPECT_TRUE(
       std::filesystem::exists(config() / "net.quivane.devtools" / "DefaultSVGFigurerConfig"));
-  EXPECT_EQ(run({"config", "set", "indent", "many"}).exitCode, 2);
-  EXPECT_EQ(run({"config", "set", "colour", "1"}).exitCode, 2);
   ASSERT_EQ(run({"config", "reset"}).exitCode, 0);
   EXPECT_EQ(nlohmann::json::parse(run({"config"}).out), toJSON(SVGFigurerConfiguration::fresh()));
-}
 
-TEST_F(CLITest, SamplesListAndPrint) {
-  const auto list = run({"samples"});
-  EXPECT_EQ(list.exitCode, 0);
   std::string names;
   for (const auto& example : exampleSVGs()) names += std::string(example.name) + "\n";
-  EXPECT_EQ(list.out, names);
+  EXPECT_EQ(run({"samples"}).out, names);
   EXPECT_EQ(run({"samples", "Simple Ellipse"}).out, exampleNamed("Simple Ellipse")->svg);
-  EXPECT_EQ(run({"samples", "Nope"}).exitCode, 1);
 }
 
 }  // namespace

@@ -6,34 +6,20 @@
 #include <vector>
 
 #include "AppTestSupport.h"
+#include "FigurerUtilities/Transcript.h"
 #include "SVGFigurerApp/ConversionService.h"
 
 using namespace SVGFigurerApp;
+using AppTest::circleSVG;
 using AppTest::Fixture;
 using CoreS::LogLevel;
 
 namespace {
 
-const std::string circleSVG =
-    R"(<svg xmlns="http://www.w3.org/2000/svg" width="20" height="20"><circle r="5"/></svg>)";
-
-// Opens documents the way the window manager does: the new document takes the front record.
-struct FakeController final : DocumentController {
-  explicit FakeController(PendingDocumentQueue& queue) : queue(&queue) {}
-  std::optional<std::string> openUntitledDocument() override {
-    if (failWith) return failWith;
-    opened.push_back(queue->takeFront().value_or(Snapshot{}));
-    return std::nullopt;
-  }
-  PendingDocumentQueue* queue;
-  std::optional<std::string> failWith;
-  std::vector<Snapshot> opened;
-};
-
 class ConversionServiceTest : public testing::Test {
  protected:
   Fixture fixture;
-  FakeController controller{fixture.pending};
+  AppTest::FakeController controller{fixture.pending};
   std::vector<std::string> printed;
   ConversionService service{fixture.environment(), controller,
                             [this](std::string_view line) { printed.emplace_back(line); }};
@@ -96,17 +82,10 @@ TEST_F(ConversionServiceTest, HandedFileThatCannotOpenPrintsAndStaysQueued) {
 }
 
 TEST(ServiceAddresses, LocalPathsAndAddresses) {
-  for (const auto& [address, path] :
-       std::vector<std::pair<std::string, std::optional<std::string>>>{
-           {"file:///tmp/a%20b.svg", "/tmp/a b.svg"},
-           {"file://localhost/x.svg", "/x.svg"},
-           {"FILE:/x.svg", "/x.svg"},
-           {"file://elsewhere/x.svg", std::nullopt},
-           {"file:///a%00b", std::nullopt},
-           {"relative.svg", std::nullopt}}) {
+  Transcript::expect("app/data/service-addresses.txt", [](const std::string& address) {
     const auto local = localPathForAddress(address);
-    EXPECT_EQ(local ? std::optional(local->string()) : std::nullopt, path) << address;
-  }
+    return "> " + (local ? local->string() : "not a local path") + "\n";
+  });
   const std::filesystem::path odd = "/tmp/ä #%?.svg";
   EXPECT_EQ(addressForLocalPath(odd), "file:///tmp/%C3%A4%20%23%25%3F.svg");
   EXPECT_EQ(localPathForAddress(addressForLocalPath(odd)), odd);

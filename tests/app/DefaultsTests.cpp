@@ -1,6 +1,9 @@
 // The persisted default settings: where they live, when they are written, and what happens to
 // data that does not decode.
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <string>
@@ -32,69 +35,51 @@ class ScopedVariable {
   std::optional<std::string> old_;
 };
 
-TEST(DefaultsStore, SuiteLivesUnderXDGConfigHomeOrHome) {
+TEST(DefaultsStore, RoundTripUnderTheConfigHome) {
   AppTest::TemporaryFolder folder;
-  {
-    ScopedVariable xdg("XDG_CONFIG_HOME", folder.path().string());
-    EXPECT_EQ(DefaultsStore::forSuite("net.quivane.devtools").folder(),
-              folder.path() / "net.quivane.devtools");
-  }
-  ScopedVariable relative("XDG_CONFIG_HOME", "relative/path");
-  ScopedVariable home("HOME", folder.path().string());
-  EXPECT_EQ(DefaultsStore::forSuite("s").folder(), folder.path() / ".config" / "s");
-}
-
-TEST(DefaultsStore, RoundTripUnderATemporaryConfigHome) {
-  AppTest::TemporaryFolder folder;
-  ScopedVariable xdg("XDG_CONFIG_HOME", folder.path().string());
   AppTest::RecordingLogger log;
   auto config = SVGFigurerConfiguration::fresh();
   config.rootViewName = "Stored";
   config.indentUsing = IndentType::tabs;
   {
+    ScopedVariable xdg("XDG_CONFIG_HOME", folder.path().string());
     ConfigurationDefaults defaults(DefaultsStore::forSuite(defaultsSuiteName), log);
     defaults.setDefaultConfiguration(config);
+    EXPECT_EQ(DefaultsStore::forSuite(defaultsSuiteName).folder(),
+              folder.path() / "net.quivane.devtools");
   }
   const auto file = folder.path() / "net.quivane.devtools" / "DefaultSVGFigurerConfig";
   EXPECT_EQ(AppTest::readFile(file), encodeJSON(config));
+  // Nothing but the one file is left behind by the atomic write.
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(file.parent_path()), {}), 1);
+  // A relative XDG_CONFIG_HOME does not count: the folder is under HOME then.
+  ScopedVariable relative("XDG_CONFIG_HOME", "relative/path");
+  ScopedVariable home("HOME", (folder.path() / "home").string());
+  EXPECT_EQ(DefaultsStore::forSuite("s").folder(), folder.path() / "home" / ".config" / "s");
+  std::filesystem::create_directories(folder.path() / "home" / ".config");
+  std::filesystem::rename(file.parent_path(),
+                          folder.path() / "home" / ".config" / defaultsSuiteName);
   ConfigurationDefaults reopened(DefaultsStore::forSuite(defaultsSuiteName), log);
   EXPECT_EQ(reopened.defaultConfiguration(), config);
-  // Nothing but the one file is left behind by the atomic write.
-  std::size_t entries = 0;
-  for ([[maybe_unused]] const auto& entry :
-       std::filesystem::directory_iterator(file.parent_path())) {
-    ++entries;
+}
+
+TEST(ConfigurationDefaults, WithoutAGoodRecordTheDefaultIsFresh) {
+  const std::pair<std::optional<std::string>, bool> rows[] = {
+      {std::nullopt, false}, {"", false}, {"{", true}, {"{}", true}};
+  for (const auto& [data, logsDecodeError] : rows) {
+    Fixture fixture;
+    if (data) fixture.store().setData(defaultConfigurationKey, *data);
+    EXPECT_EQ(fixture.defaults.defaultConfiguration(), SVGFigurerConfiguration::fresh());
+    EXPECT_EQ(fixture.log.contains(CoreS::LogLevel::error, "could not decode config:"),
+              logsDecodeError)
+        << data.value_or("(absent)");
+    EXPECT_EQ(fixture.log.lines.size(), logsDecodeError ? 1u : 0u);
+    // Nothing is written until something changes, so bad data stays until then.
+    EXPECT_EQ(fixture.store().data(defaultConfigurationKey), data);
   }
-  EXPECT_EQ(entries, 1u);
 }
 
-struct StoredRow {
-  const char* name;
-  std::optional<std::string> data;
-  bool logsDecodeError;
-};
-
-class StoredData : public testing::TestWithParam<StoredRow> {};
-
-TEST_P(StoredData, WithoutAGoodRecordTheDefaultIsFresh) {
-  Fixture fixture;
-  if (GetParam().data) fixture.store().setData(defaultConfigurationKey, *GetParam().data);
-  EXPECT_EQ(fixture.defaults.defaultConfiguration(), SVGFigurerConfiguration::fresh());
-  EXPECT_EQ(fixture.log.contains(CoreS::LogLevel::error, "could not decode config:"),
-            GetParam().logsDecodeError);
-  EXPECT_EQ(fixture.log.lines.size(), GetParam().logsDecodeError ? 1u : 0u);
-  // Nothing is written until something changes, so bad data stays until then.
-  EXPECT_EQ(fixture.store().data(defaultConfigurationKey), GetParam().data);
-}
-
-INSTANTIATE_TEST_SUITE_P(Rows, StoredData,
-                         testing::Values(StoredRow{"Absent", std::nullopt, false},
-                                         StoredRow{"Empty", "", false},
-                                         StoredRow{"NotJSON", "{", true},
-                                         StoredRow{"MissingKeys", "{}", true}),
-                         [](const auto& info) { return std::string(info.param.name); });
-
-TEST(ConfigurationDefaults, OutsideChangeIsAdoptedAndWrittenBack) {
+TEST(ConfigurationDefaults, OutsideChangeIsAdoptedAndWrittenBackAndResetForgetsIt) {
   Fixture fixture;
   auto changed = SVGFigurerConfiguration::fresh();
   changed.indent = 4;
@@ -110,13 +95,7 @@ TEST(ConfigurationDefaults, OutsideChangeIsAdoptedAndWrittenBack) {
   // The write-back raises a further notification, which stops at the comparison.
   fixture.defaults.storeDidChange();
   EXPECT_EQ(fixture.log.count("reloading default config"), 1u);
-}
-
-TEST(ConfigurationDefaults, ResetForgetsTheStoredRecord) {
-  Fixture fixture;
-  auto config = SVGFigurerConfiguration::fresh();
-  config.useHexColor = true;
-  fixture.defaults.setDefaultConfiguration(config);
+  // A reset forgets the stored record.
   fixture.defaults.reset();
   EXPECT_FALSE(fixture.store().data(defaultConfigurationKey).has_value());
   EXPECT_EQ(fixture.defaults.defaultConfiguration(), SVGFigurerConfiguration::fresh());
@@ -130,6 +109,25 @@ TEST(AtomicFile, ReplacesTheWholeFileOrNothing) {
   EXPECT_EQ(AppTest::readFile(path), "new");
   const auto missing = folder.path() / "no-such-folder" / "x";
   EXPECT_TRUE(writeFileAtomically(missing, "x").has_value());
+}
+
+// Replacing a pipe or a device (such as /dev/null) by a plain file would break it for everyone.
+TEST(AtomicFile, WritesIntoAPipeInsteadOfReplacingIt) {
+  AppTest::TemporaryFolder folder;
+  const auto pipe = folder.path() / "pipe";
+  ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+  // The read end is open first, so the write neither blocks nor, if it wrongly replaced the
+  // pipe, leaves this test waiting.
+  const int reader = ::open(pipe.c_str(), O_RDONLY | O_NONBLOCK);
+  ASSERT_GE(reader, 0);
+  EXPECT_FALSE(writeFileAtomically(pipe, "through the pipe"));
+  char received[64] = {};
+  const ssize_t count = ::read(reader, received, sizeof received);
+  ::close(reader);
+  EXPECT_EQ(std::string(received, count > 0 ? std::size_t(count) : 0), "through the pipe");
+  struct stat status {};
+  ASSERT_EQ(::stat(pipe.c_str(), &status), 0);
+  EXPECT_TRUE(S_ISFIFO(status.st_mode));
 }
 
 }  // namespace

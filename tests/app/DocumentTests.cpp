@@ -6,27 +6,29 @@
 #include <vector>
 
 #include "AppTestSupport.h"
+#include "FigurerUtilities/Transcript.h"
 #include "SVGParser/SVGParser.h"
 
 using namespace SVGFigurerApp;
+using AppTest::circleSVG;
 using AppTest::Fixture;
 using Property = SVGFigurerDocument::Property;
 
 namespace {
 
-const std::string circleSVG =
-    R"(<svg xmlns="http://www.w3.org/2000/svg" width="20" height="20"><circle r="5"/></svg>)";
 const std::string squareSVG =
     R"(<svg xmlns="http://www.w3.org/2000/svg" width="20" height="20"><rect width="5" height="5"/></svg>)";
+
+SVGFigurerConfiguration withoutHeader() {
+  auto config = SVGFigurerConfiguration::fresh();
+  config.prefixSVG = false;
+  return config;
+}
 
 class DocumentTest : public testing::Test {
  protected:
   Fixture fixture;
-  SVGFigurerConfiguration withoutHeader() {
-    auto config = SVGFigurerConfiguration::fresh();
-    config.prefixSVG = false;
-    return config;
-  }
+  std::size_t rebuilds() const { return fixture.log.count("rebuilding SVG ..."); }
 };
 
 TEST_F(DocumentTest, NewDefaultDocumentIsGeneratedWithHeader) {
@@ -44,84 +46,67 @@ TEST_F(DocumentTest, GivenSourceTextSuppressesTheFirstGeneration) {
   SVGFigurerDocument document(circleSVG, "// mine\n", fixture.environment());
   EXPECT_EQ(document.swift(), "// mine\n");
   EXPECT_EQ(document.generatedSwift(), "");
-  EXPECT_EQ(fixture.log.count("rebuilding SVG ..."), 0u);
+  EXPECT_EQ(rebuilds(), 0u);
+  EXPECT_EQ(document.snapshot(), (Snapshot{circleSVG, "// mine\n", document.config()}));
 }
 
-TEST_F(DocumentTest, WritingTheSameSVGPublishesWithoutRebuilding) {
+TEST_F(DocumentTest, ObserversSeeEachStepOfARebuildInOrderUntilRemoved) {
   SVGFigurerDocument document(circleSVG, "", fixture.environment());
   std::vector<Property> seen;
-  document.addObserver([&](const SVGFigurerDocument&, Property p) { seen.push_back(p); });
-  const auto rebuilds = fixture.log.count("rebuilding SVG ...");
+  std::vector<std::string> generated;
+  std::vector<bool> rebuilding;
+  const auto id = document.addObserver([&](const SVGFigurerDocument& d, Property p) {
+    seen.push_back(p);
+    generated.push_back(d.generatedSwift());
+    rebuilding.push_back(d.isRebuilding());
+  });
+  // The same SVG again publishes without rebuilding.
+  const auto before = rebuilds();
   document.setSVGString(circleSVG);
   EXPECT_EQ(seen, std::vector<Property>{Property::svgString});
-  EXPECT_EQ(fixture.log.count("rebuilding SVG ..."), rebuilds);
-}
+  EXPECT_EQ(rebuilds(), before);
 
-TEST_F(DocumentTest, RebuildPublishesEachStepInOrder) {
-  SVGFigurerDocument document(circleSVG, "", fixture.environment());
-  struct Seen {
-    Property property;
-    std::string generated;
-    bool rebuilding;
-  };
-  std::vector<Seen> seen;
-  document.addObserver([&](const SVGFigurerDocument& d, Property p) {
-    seen.push_back({p, d.generatedSwift(), d.isRebuilding()});
-  });
+  seen.clear();
+  generated.clear();
+  rebuilding.clear();
   document.setSVGString(squareSVG);
+  EXPECT_EQ(seen, (std::vector<Property>{Property::svgString, Property::isRebuilding,
+                                         Property::generatedSwift, Property::generatedSwift,
+                                         Property::rebuildFailed, Property::swift,
+                                         Property::isRebuilding}));
   ASSERT_EQ(seen.size(), 7u);
-  EXPECT_EQ(seen[0].property, Property::svgString);
-  EXPECT_EQ(seen[1].property, Property::isRebuilding);
-  EXPECT_TRUE(seen[1].rebuilding);
-  EXPECT_EQ(seen[2].property, Property::generatedSwift);
-  EXPECT_EQ(seen[2].generated, "") << "observers see the cleared text first";
-  EXPECT_EQ(seen[3].property, Property::generatedSwift);
-  EXPECT_FALSE(seen[3].generated.empty());
-  EXPECT_EQ(seen[4].property, Property::rebuildFailed);
-  EXPECT_EQ(seen[5].property, Property::swift);
-  EXPECT_EQ(seen[6].property, Property::isRebuilding);
-  EXPECT_FALSE(seen[6].rebuilding);
+  EXPECT_EQ(rebuilding, (std::vector<bool>{false, true, true, true, true, true, false}));
+  EXPECT_EQ(generated[2], "") << "observers see the cleared text first";
+  EXPECT_EQ(generated[3], document.generatedSwift());
+
+  document.removeObserver(id);
+  document.setSwift("b");
+  EXPECT_EQ(seen.size(), 7u);
 }
 
-struct FailureRow {
-  const char* name;
-  std::string svg;
-  std::string text;
-  bool failed;
-};
-
-class DocumentFailureText : public DocumentTest, public testing::WithParamInterface<FailureRow> {};
-
-TEST_P(DocumentFailureText, ReplacesUneditedSourceWithoutHeader) {
-  SVGFigurerDocument document(circleSVG, "", fixture.environment());
-  document.setSVGString(GetParam().svg);
-  EXPECT_EQ(document.generatedSwift(), GetParam().text);
-  EXPECT_EQ(document.swift(), GetParam().text);
-  EXPECT_EQ(document.rebuildFailed(), GetParam().failed);
-  EXPECT_TRUE(fixture.log.contains(CoreS::LogLevel::warn, "Parsing of SVG failed."));
-  // The failure text is unedited, so the next good parse replaces it by itself.
-  document.setSVGString(circleSVG);
-  EXPECT_FALSE(document.rebuildFailed());
-  EXPECT_EQ(document.swift(), document.generatedSwift());
-  EXPECT_TRUE(document.swift().starts_with("/**"));
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Rows, DocumentFailureText,
-    testing::Values(FailureRow{"Blanks", " \n\r\n \u00a0\u3000", "// Empty SVG\n", false},
-                    FailureRow{"Tab", "\t", "// Could not parse SVG\n", true},
-                    FailureRow{"NotSVG", "hello <", "// Could not parse SVG\n", true},
-                    FailureRow{"Empty", "", "// Empty SVG\n", false}),
-    [](const auto& info) { return std::string(info.param.name); });
-
-TEST_F(DocumentTest, FailedParseLeavesEditedSourceAlone) {
-  SVGFigurerDocument document(circleSVG, "", fixture.environment());
-  document.setSwift("// edited\n");
-  document.setSVGString("not svg");
-  EXPECT_EQ(document.swift(), "// edited\n");
-  EXPECT_EQ(document.generatedSwift(), "// Could not parse SVG\n");
-  EXPECT_TRUE(document.rebuildFailed());
-  EXPECT_TRUE(fixture.log.contains(CoreS::LogLevel::log, "Swift was modified"));
+TEST_F(DocumentTest, FailureTextReplacesUneditedSourceWithoutHeader) {
+  const struct {
+    std::string svg;
+    std::string text;
+    bool failed;
+  } rows[] = {{" \n\r\n \u00a0\u3000", "// Empty SVG\n", false},
+              {"\t", "// Could not parse SVG\n", true},
+              {"hello <", "// Could not parse SVG\n", true},
+              {"", "// Empty SVG\n", false}};
+  for (const auto& row : rows) {
+    Fixture fixture;
+    SVGFigurerDocument document(circleSVG, "", fixture.environment());
+    document.setSVGString(row.svg);
+    EXPECT_EQ(document.generatedSwift(), row.text) << row.svg;
+    EXPECT_EQ(document.swift(), row.text);
+    EXPECT_EQ(document.rebuildFailed(), row.failed);
+    EXPECT_TRUE(fixture.log.contains(CoreS::LogLevel::warn, "Parsing of SVG failed."));
+    // The failure text is unedited, so the next good parse replaces it by itself.
+    document.setSVGString(circleSVG);
+    EXPECT_FALSE(document.rebuildFailed());
+    EXPECT_EQ(document.swift(), document.generatedSwift());
+    EXPECT_TRUE(document.swift().starts_with("/**"));
+  }
 }
 
 class RecordingUndo final : public UndoRegistrar {
@@ -132,56 +117,43 @@ class RecordingUndo final : public UndoRegistrar {
   }
 };
 
-TEST_F(DocumentTest, EditApplyAndUndo) {
+TEST_F(DocumentTest, EditedSourceStaysUntilAppliedAndUndoBringsItBack) {
   SVGFigurerDocument document(circleSVG, "", fixture.environment());
   document.setSwift("// edited\n");
-  const std::string before = document.generatedSwift();
+  document.setSVGString("not svg");
+  EXPECT_EQ(document.swift(), "// edited\n");
+  EXPECT_EQ(document.generatedSwift(), "// Could not parse SVG\n");
+  EXPECT_TRUE(document.rebuildFailed());
+  EXPECT_TRUE(fixture.log.contains(CoreS::LogLevel::log, "Swift was modified"));
   document.setSVGString(squareSVG);
   EXPECT_EQ(document.swift(), "// edited\n");
-  EXPECT_NE(document.generatedSwift(), before);
+  EXPECT_EQ(document.generatedSwift(), AppTest::expectedSwift(squareSVG, document.config()));
   EXPECT_TRUE(document.isEdited());
 
   RecordingUndo undo;
   document.applyGeneratedSwift(&undo);
   EXPECT_EQ(document.swift(), document.generatedSwift());
   ASSERT_EQ(undo.actions.size(), 1u);
-  const auto rebuilds = fixture.log.count("rebuilding SVG ...");
+  const auto count = rebuilds();
   undo.actions[0](document);
   EXPECT_EQ(document.swift(), "// edited\n");
   EXPECT_TRUE(document.isEdited());
   EXPECT_EQ(undo.actions.size(), 1u) << "undo registers no redo";
-  EXPECT_EQ(fixture.log.count("rebuilding SVG ..."), rebuilds) << "undo does not rebuild";
+  EXPECT_EQ(rebuilds(), count) << "undo does not rebuild";
+
+  // Typing the generated text makes the document unedited again.
+  document.setSwift(document.generatedSwift());
+  document.setSVGString(circleSVG);
+  EXPECT_EQ(document.swift(), AppTest::expectedSwift(circleSVG, document.config()));
 }
 
-TEST_F(DocumentTest, TypingTheGeneratedTextMakesTheDocumentUneditedAgain) {
+TEST_F(DocumentTest, ChangedSettingsRebuildAndBecomeThePersistedDefaultButEqualOnesDoNot) {
   SVGFigurerDocument document(circleSVG, "", fixture.environment());
-  const std::string before = document.generatedSwift();
-  document.setSwift("x");
-  document.setSwift(before);
-  document.setSVGString(squareSVG);
-  EXPECT_EQ(document.swift(), document.generatedSwift());
-  EXPECT_NE(document.swift(), before);
-}
-
-TEST_F(DocumentTest, WithoutPrefixTheSourceIsTheExportersText) {
-  fixture.defaults.setDefaultConfiguration(withoutHeader());
-  SVGFigurerDocument document(circleSVG, "", fixture.environment());
-  auto svg = SVGParser::parse(circleSVG, {});
-  ASSERT_TRUE(svg);
-  EXPECT_EQ(document.generatedSwift(),
-            SVGSwiftUIExporter::generate(*svg, withoutHeader().exporterConfig()));
-}
-
-TEST_F(DocumentTest, EqualSettingsNeitherRebuildNorPersist) {
-  SVGFigurerDocument document(circleSVG, "", fixture.environment());
-  const auto rebuilds = fixture.log.count("rebuilding SVG ...");
+  const auto count = rebuilds();
   document.setConfig(document.config());
-  EXPECT_EQ(fixture.log.count("rebuilding SVG ..."), rebuilds);
+  EXPECT_EQ(rebuilds(), count);
   EXPECT_FALSE(fixture.store().data(defaultConfigurationKey).has_value());
-}
 
-TEST_F(DocumentTest, ChangedSettingsRebuildAndBecomeThePersistedDefault) {
-  SVGFigurerDocument document(circleSVG, "", fixture.environment());
   document.setConfig(withoutHeader());
   EXPECT_FALSE(document.swift().starts_with("/**"));
   EXPECT_EQ(fixture.defaults.defaultConfiguration(), withoutHeader());
@@ -192,6 +164,7 @@ TEST_F(DocumentTest, ChangedSettingsRebuildAndBecomeThePersistedDefault) {
   // A second document starts from the new default.
   SVGFigurerDocument second(circleSVG, "", fixture.environment());
   EXPECT_EQ(second.config(), withoutHeader());
+  EXPECT_EQ(second.generatedSwift(), AppTest::expectedSwift(circleSVG, withoutHeader()));
 }
 
 TEST_F(DocumentTest, NewDocumentTakesThePendingRecordWithoutItsSettings) {
@@ -207,46 +180,11 @@ TEST_F(DocumentTest, NewDocumentTakesThePendingRecordWithoutItsSettings) {
   EXPECT_EQ(document.config(), SVGFigurerConfiguration::fresh());
 }
 
-TEST_F(DocumentTest, SnapshotHoldsTheCurrentTexts) {
-  SVGFigurerDocument document(circleSVG, "", fixture.environment());
-  document.setSwift("// mine\n");
-  EXPECT_EQ(document.snapshot(), (Snapshot{circleSVG, "// mine\n", document.config()}));
+TEST(Generation, HeaderFoldsTheNonEmptyLinesAsTheyStand) {
+  Transcript::expect("app/data/header-comments.txt", [](const std::string& svg) {
+    return "> " + Transcript::escape(svgHeaderComment(Transcript::unescape(svg))) + "\n";
+  });
 }
-
-TEST_F(DocumentTest, RemovedObserverHearsNothing) {
-  SVGFigurerDocument document(circleSVG, "", fixture.environment());
-  int calls = 0;
-  const auto id = document.addObserver([&](const SVGFigurerDocument&, Property) { ++calls; });
-  document.setSwift("a");
-  document.removeObserver(id);
-  document.setSwift("b");
-  EXPECT_EQ(calls, 1);
-}
-
-struct HeaderRow {
-  const char* name;
-  std::string svg;
-  std::string header;
-};
-
-class HeaderComment : public testing::TestWithParam<HeaderRow> {};
-
-TEST_P(HeaderComment, FoldsTheNonEmptyLinesAsTheyStand) {
-  EXPECT_EQ(svgHeaderComment(GetParam().svg), GetParam().header);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Rows, HeaderComment,
-    testing::Values(
-        HeaderRow{"BlankLinesDropped", "<svg>\n\n\n</svg>\n",
-                  "/**\n * Generated from SVG:\n * \n *     <svg>\n *     </svg>\n * \n */\n"},
-        HeaderRow{"BlanksOnlyLineKept", "a\n  \nb",
-                  "/**\n * Generated from SVG:\n * \n *     a\n *       \n *     b\n * \n */\n"},
-        HeaderRow{"CarriageReturnStays", "a\r\nb",
-                  "/**\n * Generated from SVG:\n * \n *     a\r\n *     b\n * \n */\n"},
-        HeaderRow{"CommentEndNotEscaped", "<!-- */ -->",
-                  "/**\n * Generated from SVG:\n * \n *     <!-- */ -->\n * \n */\n"}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST(Generation, MakeSnapshotHasNoHeaderAndNamesTheFile) {
   const auto config = SVGFigurerConfiguration::fresh();
@@ -258,16 +196,17 @@ TEST(Generation, MakeSnapshotHasNoHeaderAndNamesTheFile) {
   EXPECT_EQ(makeSnapshot("<", std::nullopt, config).swift, "// Could not parse SVG\n");
 }
 
-TEST(Generation, HeaderWrapsTheExportersTextExactly) {
-  AppTest::RecordingLogger log;
-  const auto config = SVGFigurerConfiguration::fresh();
-  const auto result = generateSwift(circleSVG, config, log);
+TEST(Generation, TheTextIsTheExportersWithTheHeaderWhenAskedFor) {
   auto svg = SVGParser::parse(circleSVG, {});
   ASSERT_TRUE(svg);
-  EXPECT_EQ(result.text, svgHeaderComment(circleSVG) +
-                             SVGSwiftUIExporter::generate(*svg, config.exporterConfig()));
-  EXPECT_TRUE(
-      log.contains(CoreS::LogLevel::log, "rebuilding SVG ... " + std::to_string(circleSVG.size())));
+  for (const auto& config : {SVGFigurerConfiguration::fresh(), withoutHeader()}) {
+    AppTest::RecordingLogger log;
+    EXPECT_EQ(generateSwift(circleSVG, config, log).text,
+              (config.prefixSVG ? svgHeaderComment(circleSVG) : "") +
+                  SVGSwiftUIExporter::generate(*svg, config.exporterConfig()));
+    EXPECT_TRUE(log.contains(CoreS::LogLevel::log,
+                             "rebuilding SVG ... " + std::to_string(circleSVG.size())));
+  }
 }
 
 // The streamed form must hand over exactly the text of the whole-text form, also when the

@@ -11,31 +11,18 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QUrl>
+#include <sstream>
 
 #include "FigurerUtilities/FontCommand.h"
+#include "FigurerUtilities/Transcript.h"
+#include "Highlight/TestSupport.h"
 #include "TextReplacement.h"
 
 namespace FigurerUtilities {
 namespace {
 
-using Highlight::Completion;
-using Highlight::Executor;
 using Highlight::HighlightJSTheme;
-using Highlight::WorkItem;
-
-// Records what the storage asks for; answers nothing.
-class RecordingHighlighter final : public Highlight::Highlighter {
- public:
-  std::shared_ptr<WorkItem> highlight(std::u16string text, std::optional<std::string>,
-                                      std::shared_ptr<const HighlightJSTheme> theme, Executor,
-                                      Completion) override {
-    texts.push_back(std::move(text));
-    themes.push_back(std::move(theme));
-    return std::make_shared<WorkItem>();
-  }
-  std::vector<std::u16string> texts;
-  std::vector<std::shared_ptr<const HighlightJSTheme>> themes;
-};
+using Highlight::RecordingHighlighter;
 
 class CodeEditorTest : public testing::Test {
  protected:
@@ -45,15 +32,9 @@ class CodeEditorTest : public testing::Test {
   }
   void reset() {
     QCoreApplication::processEvents();
-    highlighter->texts.clear();
+    highlighter->requests.clear();
     replacements = 0;
     edits.clear();
-  }
-  void focus() {
-    editor.show();
-    editor.activateWindow();
-    editor.setFocus();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&editor));
   }
 
   std::shared_ptr<RecordingHighlighter> highlighter = std::make_shared<RecordingHighlighter>();
@@ -74,7 +55,7 @@ TEST_F(CodeEditorTest, ATypedCharacterIsOneEditAndItsEchoChangesNothing) {
   editor.setSource(editor.source());
   QCoreApplication::processEvents();
   EXPECT_EQ(replacements, 0);
-  EXPECT_TRUE(highlighter->texts.empty());
+  EXPECT_TRUE(highlighter->requests.empty());
   EXPECT_TRUE(edits.isEmpty());
 }
 
@@ -111,8 +92,8 @@ TEST_F(CodeEditorTest, AChangedMiddleOfAMegabyteReplacesOnlyTheMiddle) {
   EXPECT_EQ(editor.document()->findBlockByNumber(lines - 10).position(), afterPosition + 9);
   EXPECT_EQ(editor.verticalScrollBar()->value(), scroll);
   // One line changed: one paragraph to highlight.
-  ASSERT_EQ(highlighter->texts.size(), 1u);
-  EXPECT_EQ(highlighter->texts[0],
+  ASSERT_EQ(highlighter->requests.size(), 1u);
+  EXPECT_EQ(highlighter->requests[0].text,
             u"  <rect id=\"blue-rectangle\" width=\"10\" height=\"20\" fill=\"red\"/>\n");
   EXPECT_LT(elapsed, 50'000'000) << "a middle change must not reset the whole text";
 }
@@ -151,26 +132,24 @@ TEST_F(CodeEditorTest, WithoutFlagsTheTextIsReadOnlyAndCopyDoesNothing) {
   EXPECT_EQ(QApplication::clipboard()->text(), "secret");
 }
 
-struct FontRow {
-  int action;
-  double size;
-  bool selection;
-  FontCommand expected;
-};
-
+// Each input is a font panel action, the current size and whether text is selected.
 TEST(FontCommandTest, ActionsTable) {
-  using Kind = FontCommand::Kind;
-  const FontRow rows[] = {
-      {1, 12, true, {Kind::useSelected}},  {1, 12, false, {Kind::notHandled}},
-      {2, 12, true, {Kind::beep}},         {7, 12, false, {Kind::beep}},
-      {3, 12, false, {Kind::setSize, 13}}, {4, 12, false, {Kind::setSize, 11}},
-      {4, 1.5, false, {Kind::beep}},       {0, 12, false, {Kind::notHandled}},
-      {5, 12, true, {Kind::notHandled}},   {-3, 12, false, {Kind::notHandled}},
-  };
-  for (const FontRow& row : rows) {
-    EXPECT_EQ(fontCommand(row.action, row.size, row.selection), row.expected)
-        << "action " << row.action << " at " << row.size;
-  }
+  Transcript::expect(
+      "FigurerUtilities/editor/data/font-commands.txt", [](const std::string& input) {
+        std::istringstream fields(input);
+        int action = 0;
+        double size = 0;
+        std::string selection;
+        fields >> action >> size >> selection;
+        const FontCommand command = fontCommand(action, size, selection == "selected");
+        const char* kinds[] = {"not handled", "use the selected font", "set the size to", "beep"};
+        return "> " + std::string(kinds[int(command.kind)]) +
+               (command.kind == FontCommand::Kind::setSize ? " " + std::to_string(command.pointSize)
+                                                           : "") +
+               (command.kind != FontCommand::Kind::setSize && command.pointSize != 0 ? " (a size!)"
+                                                                                     : "") +
+               "\n";
+      });
 }
 
 TEST_F(CodeEditorTest, FontCommandsAskTheWindowOrBeep) {
@@ -182,7 +161,10 @@ TEST_F(CodeEditorTest, FontCommandsAskTheWindowOrBeep) {
   QSignalSpy requested(&editor, &CodeEditor::fontChangeRequested);
   EXPECT_FALSE(editor.changeFont(3, std::nullopt)) << "not focused";
 
-  focus();
+  editor.show();
+  editor.activateWindow();
+  editor.setFocus();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&editor));
   EXPECT_TRUE(editor.changeFont(3, std::nullopt));
   EXPECT_TRUE(editor.changeFont(2, std::nullopt));
   EXPECT_FALSE(editor.changeFont(99, std::nullopt));
@@ -198,17 +180,11 @@ TEST_F(CodeEditorTest, APaletteChangePicksTheThemeAndRehighlights) {
   QPalette dark = editor.palette();
   dark.setColor(QPalette::Window, QColor(30, 30, 30));
   editor.setPalette(dark);
-  ASSERT_FALSE(highlighter->themes.empty());
-  EXPECT_EQ(highlighter->texts.back(), u"<svg/>");
-  EXPECT_EQ(highlighter->themes.back()->classToProperties(),
+  ASSERT_FALSE(highlighter->requests.empty());
+  EXPECT_EQ(highlighter->requests.back().text, u"<svg/>");
+  EXPECT_EQ(highlighter->requests.back().theme->classToProperties(),
             HighlightJSTheme::dark()->classToProperties());
 }
-
-struct DropRow {
-  const char* name;
-  bool fileURL;
-  bool taken;
-};
 
 // Stands for the document window, which takes dropped files.
 class DropTarget : public QWidget {
@@ -229,43 +205,35 @@ TEST_F(CodeEditorTest, DropsOfFilesGoOnToTheWindowAndTextIsInserted) {
   editor.setParent(&window);
   window.show();
   editor.setSource("<svg/>");
-  for (const DropRow row : {DropRow{"file", true, false}, DropRow{"text", false, true}}) {
+  // A file goes on to the window; text is taken.
+  for (const bool file : {true, false}) {
     edits.clear();
     window.drops = 0;
     QMimeData data;
-    if (row.fileURL) data.setUrls({QUrl::fromLocalFile("/tmp/art.svg")});
+    if (file) data.setUrls({QUrl::fromLocalFile("/tmp/art.svg")});
     data.setText("<g/>");
     const QPointF point(20, 12);
     QDragEnterEvent enter(point.toPoint(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(editor.viewport(), &enter);
     QDropEvent drop(point, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(editor.viewport(), &drop);
-    EXPECT_EQ(window.drops, row.fileURL ? 1 : 0) << row.name;
-    EXPECT_EQ(edits.count(), row.taken ? 1 : 0) << row.name;
-    EXPECT_EQ(editor.source().find("<g/>") != std::string::npos, row.taken) << row.name;
+    EXPECT_EQ(window.drops, file ? 1 : 0) << file;
+    EXPECT_EQ(edits.count(), file ? 0 : 1) << file;
+    EXPECT_EQ(editor.source().find("<g/>") == std::string::npos, file) << file;
   }
   editor.setParent(nullptr);
 }
 
-struct ReplacementRow {
-  const char* from;
-  const char* to;
-  TextReplacement expected;
-};
-
+// Each input is a text and the text replacing it: the replacement that keeps the common prefix and
+// suffix, as start, bytes removed and bytes inserted.
 TEST(MiddleReplacementTest, KeepsPrefixAndSuffixOfWholeCharacters) {
-  const ReplacementRow rows[] = {
-      {"abcdef", "abXdef", {2, 1, 1}},
-      {"abc", "abc", {3, 0, 0}},
-      {"", "new", {0, 0, 3}},
-      {"aaa", "aaaa", {3, 0, 1}},               // the suffix never overlaps the prefix
-      {"x\u00E9y", "x\u00EAy", {1, 2, 2}},      // é and ê share their first byte
-      {"\U0001F600", "\U0001F601", {0, 4, 4}},  // so do two emoji, and their suffix
-      {"a\u00E9", "a\u00E9\u00E9", {3, 0, 2}},
-  };
-  for (const ReplacementRow& row : rows) {
-    EXPECT_EQ(middleReplacement(row.from, row.to), row.expected) << row.from << " -> " << row.to;
-  }
+  Transcript::expect(
+      "FigurerUtilities/editor/data/middle-replacements.txt", [](const std::string& input) {
+        const auto arrow = input.find(" -> ");
+        const auto r = middleReplacement(input.substr(0, arrow), input.substr(arrow + 4));
+        return "> " + std::to_string(r.start) + " " + std::to_string(r.removed) + " " +
+               std::to_string(r.inserted) + "\n";
+      });
   EXPECT_EQ(utf16Length("a\u00E9\u20AC\U0001F600"), 5u);
 }
 

@@ -16,24 +16,9 @@
 #include "SVGFigurerService/ApplicationService.h"
 
 using namespace SVGFigurerService;
-using SVGFigurerApp::Snapshot;
+using AppTest::circleSVG;
 
 namespace {
-
-const std::string circleSVG =
-    R"(<svg xmlns="http://www.w3.org/2000/svg" width="20" height="20"><circle r="5"/></svg>)";
-
-struct FakeController final : SVGFigurerApp::DocumentController {
-  explicit FakeController(SVGFigurerApp::PendingDocumentQueue& queue) : queue(&queue) {}
-  std::optional<std::string> openUntitledDocument() override {
-    if (failWith) return failWith;
-    opened.push_back(queue->takeFront().value_or(Snapshot{}));
-    return std::nullopt;
-  }
-  SVGFigurerApp::PendingDocumentQueue* queue;
-  std::optional<std::string> failWith;
-  std::vector<Snapshot> opened;
-};
 
 struct CommandResult {
   int exitCode;
@@ -44,7 +29,7 @@ struct CommandResult {
 class ServiceTest : public testing::Test {
  protected:
   AppTest::Fixture fixture;
-  FakeController controller{fixture.pending};
+  AppTest::FakeController controller{fixture.pending};
   int activations = 0;
   ApplicationService service{fixture.environment(), controller, [this] { ++activations; }};
 
@@ -85,13 +70,9 @@ class ServiceTest : public testing::Test {
   }
 };
 
-TEST_F(ServiceTest, EmptyTextIsAnErrorReplyForEachEntryPoint) {
-  struct Case {
-    const char* method;
-    const char* message;
-  };
-  for (const auto& [method, message] : {Case{"OpenSVG", "Missing SVG text? (-32423)"},
-                                        Case{"SvgToView", "Missing SVG text? (-22423)"}}) {
+TEST_F(ServiceTest, EmptyTextIsAnErrorReplyForEachEntryPointAndUnparsableTextOpens) {
+  for (const auto& [method, message] : {std::pair{"OpenSVG", "Missing SVG text? (-32423)"},
+                                        std::pair{"SvgToView", "Missing SVG text? (-22423)"}}) {
     const QDBusMessage reply = callService(method, "");
     EXPECT_EQ(reply.type(), QDBusMessage::ErrorMessage) << method;
     EXPECT_EQ(reply.errorName(),
@@ -100,9 +81,7 @@ TEST_F(ServiceTest, EmptyTextIsAnErrorReplyForEachEntryPoint) {
   }
   EXPECT_TRUE(controller.opened.empty());
   EXPECT_EQ(fixture.log.count("got no SVG string from pasteboard!"), 2u);
-}
 
-TEST_F(ServiceTest, OpenSVGWithUnparsableTextOpensTheFailureText) {
   EXPECT_EQ(callService("OpenSVG", "<svg").type(), QDBusMessage::ReplyMessage);
   ASSERT_EQ(controller.opened.size(), 1u);
   EXPECT_EQ(controller.opened[0].swift, "// Could not parse SVG\n");
@@ -137,12 +116,8 @@ TEST_F(ServiceTest, SvgToViewEqualsTheConvertCommandWithThePersistedDefault) {
 }
 
 TEST_F(ServiceTest, CommandLineClientExitCodes) {
-  struct Case {
-    const char* command;
-    std::string input;
-    int exitCode;
-    std::string err;  // the start of standard error
-  };
+  // The command, its input, its exit status and the start of its standard error.
+  using Case = std::tuple<const char*, std::string, int, std::string>;
   for (const auto& [command, input, exitCode, err] :
        {Case{"svg-to-view", circleSVG, 0, ""},
         Case{"svg-to-view", "", 1, "svgfigurer: Missing SVG text? (-22423)"},

@@ -10,7 +10,6 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QUrl>
-#include <fstream>
 
 #include "FigurerUtilities/CodeEditor.h"
 #include "FigurerUtilities/SVGPreview.h"
@@ -33,28 +32,27 @@ class DocumentWindowTest : public ::testing::Test {
     WindowDialogs dialogs;
     dialogs.askToSaveChanges = [this](QWidget*, const QString&) { return closeAnswer; };
     dialogs.openFileName = [this](QWidget*) { return fileAnswer; };
-    dialogs.saveFileName = [this](QWidget*, const QString&) { return fileAnswer; };
-    dialogs.exportFileName = [this](QWidget*, const QString&) { return fileAnswer; };
+    dialogs.saveFileName =
+        dialogs.exportFileName = [this](QWidget*, const QString&) { return fileAnswer; };
     dialogs.chooseFont = [](QWidget*, const QFont&) { return std::optional<QFont>(); };
     dialogs.showError = [this](QWidget*, const QString&, const QString& text) { errors << text; };
     dialogs.beep = [this] { ++beeps; };
     dialogs.openURL = [this](const QString& url) { openedURLs << url; };
     manager = std::make_unique<WindowManager>(
-        SVGFigurerApp::DocumentEnvironment{&log, &defaults, &pending, {}}, std::move(dialogs),
-        nullptr);
+        SVGFigurerApp::DocumentEnvironment{&fixture.log, &fixture.defaults, &fixture.pending, {}},
+        std::move(dialogs), nullptr);
   }
   void TearDown() override {
     closeAnswer = UnsavedChangesChoice::discard;
     manager->closeAll();
   }
 
-  std::string path(const std::string& name) const { return (folder.path() / name).string(); }
+  std::filesystem::path path(const std::string& name) const { return fixture.folder.path() / name; }
+  QString qpath(const std::string& name) const {
+    return QString::fromStdString(path(name).string());
+  }
 
-  AppTest::TemporaryFolder folder;
-  AppTest::RecordingLogger log;
-  SVGFigurerApp::ConfigurationDefaults defaults{
-      SVGFigurerApp::DefaultsStore(folder.path() / "net.quivane.devtools"), log};
-  SVGFigurerApp::PendingDocumentQueue pending;
+  AppTest::Fixture fixture;
   std::unique_ptr<WindowManager> manager;
   UnsavedChangesChoice closeAnswer = UnsavedChangesChoice::cancel;
   QString fileAnswer;
@@ -69,8 +67,6 @@ void typeAt(FigurerUtilities::CodeEditor& editor, int position, const QString& t
   editor.setTextCursor(cursor);
   QTest::keyClicks(&editor, text);
 }
-
-void dropOn(DocumentWindow& window, QMimeData* data) { window.handleDrop(*data); }
 
 TEST_F(DocumentWindowTest, TypingSVGUpdatesSourceAndPreviewAtEachKeystroke) {
   DocumentWindow* window = manager->newDocument();
@@ -112,7 +108,7 @@ TEST_F(DocumentWindowTest, EditedSourceShowsBannerAndDroppingEditsUndoesAndRedoe
   EXPECT_FALSE(document.isEdited());
 }
 
-TEST_F(DocumentWindowTest, OverlaysFollowTheDocument) {
+TEST_F(DocumentWindowTest, OverlaysAndReportLinesFollowTheDocument) {
   DocumentWindow* window = manager->newDocument();
   SVGFigurerDocument& document = window->document();
   QString duringRebuild;
@@ -130,14 +126,12 @@ TEST_F(DocumentWindowTest, OverlaysFollowTheDocument) {
   QTest::keyClick(&window->swiftEditor(), Qt::Key_Delete);
   EXPECT_EQ(document.swift(), "");
   EXPECT_EQ(window->sourcePane().visibleOverlayText(), "Could not generate Swift?");
-}
 
-TEST_F(DocumentWindowTest, ReportLinesOfEachRebuildAreListed) {
-  DocumentWindow* window = manager->newDocument();
-  window->document().setSVGString(
+  // The report lines of each rebuild are listed, and only those.
+  document.setSVGString(
       "<svg xmlns=\"http://www.w3.org/2000/svg\"><foo/><path d=\"M 0 0 L\"/></svg>");
   EXPECT_GE(window->sourcePane().issueCount(), 1);
-  window->document().setSVGString(std::string(SVGFigurerApp::defaultDocumentSVG));
+  document.setSVGString(std::string(SVGFigurerApp::defaultDocumentSVG));
   EXPECT_EQ(window->sourcePane().issueCount(), 0);
 }
 
@@ -155,7 +149,7 @@ TEST_F(DocumentWindowTest, SettingsControlsRebuildAndSteppersStopAtTheirLimits) 
                     Qt::LeftButton);
   EXPECT_EQ(window->document().config().maximumFractionDigits, 12);
   // The settings of the document last touched become the default for new documents.
-  EXPECT_EQ(defaults.defaultConfiguration().maximumFractionDigits, 12);
+  EXPECT_EQ(fixture.defaults.defaultConfiguration().maximumFractionDigits, 12);
 }
 
 TEST_F(DocumentWindowTest, SamplesGoIntoTheFocusedDocumentOrANewOne) {
@@ -168,7 +162,7 @@ TEST_F(DocumentWindowTest, SamplesGoIntoTheFocusedDocumentOrANewOne) {
   manager->pickSample(ellipse.svg, nullptr);
   ASSERT_EQ(manager->windows().size(), 2u);
   EXPECT_EQ(manager->windows().back()->document().svgString(), ellipse.svg);
-  EXPECT_TRUE(pending.empty());
+  EXPECT_TRUE(fixture.pending.empty());
 
   window->action("sampleOpenIconMonstr")->trigger();
   EXPECT_EQ(openedURLs, QStringList{iconMonstrURL});
@@ -178,29 +172,20 @@ TEST_F(DocumentWindowTest, DropsTakeSVGFilesAndTextAndRefuseTheRest) {
   DocumentWindow* window = manager->newDocument();
   SVGFigurerDocument& document = window->document();
   const std::string ellipse(SVGFigurerApp::exampleNamed("Simple Ellipse")->svg);
-  std::ofstream(path("drop.svg")) << ellipse;
+  AppTest::writeFile(path("drop.svg"), ellipse);
 
-  auto* file = new QMimeData;
-  file->setUrls({QUrl::fromLocalFile(QString::fromStdString(path("drop.svg")))});
-  dropOn(*window, file);
+  QMimeData file, notUTF8, other, text;
+  file.setUrls({QUrl::fromLocalFile(qpath("drop.svg"))});
+  window->handleDrop(file);
   EXPECT_EQ(document.svgString(), ellipse);
-
-  auto* notUTF8 = new QMimeData;
-  notUTF8->setData("image/svg+xml", QByteArray("<svg>\xff\xfe</svg>"));
-  dropOn(*window, notUTF8);
-  auto* other = new QMimeData;
-  other->setData("application/x-other", "<svg/>");
-  dropOn(*window, other);
+  notUTF8.setData("image/svg+xml", QByteArray("<svg>\xff\xfe</svg>"));
+  window->handleDrop(notUTF8);
+  other.setData("application/x-other", "<svg/>");
+  window->handleDrop(other);
   EXPECT_EQ(document.svgString(), ellipse);
-
-  auto* text = new QMimeData;
-  text->setText("<svg xmlns=\"http://www.w3.org/2000/svg\"/>");
-  dropOn(*window, text);
+  text.setText("<svg xmlns=\"http://www.w3.org/2000/svg\"/>");
+  window->handleDrop(text);
   EXPECT_EQ(document.svgString(), "<svg xmlns=\"http://www.w3.org/2000/svg\"/>");
-  delete file;
-  delete notUTF8;
-  delete other;
-  delete text;
 }
 
 TEST_F(DocumentWindowTest, LayoutFlipPersistsAndFollowsTheStore) {
@@ -208,12 +193,12 @@ TEST_F(DocumentWindowTest, LayoutFlipPersistsAndFollowsTheStore) {
   EXPECT_TRUE(window->stacksVertically());
   window->action("toolbarLayout")->trigger();
   EXPECT_FALSE(window->stacksVertically());
-  EXPECT_FALSE(useVerticalUI(defaults.store()));
+  EXPECT_FALSE(useVerticalUI(fixture.store()));
   EXPECT_FALSE(manager->newDocument()->stacksVertically());
 
   // Another process flips it back: the folder watch brings it here.
   manager->startObservingStore();
-  SVGFigurerApp::DefaultsStore elsewhere(defaults.store().folder());
+  SVGFigurerApp::DefaultsStore elsewhere(fixture.store().folder());
   setUseVerticalUI(elsewhere, true);
   EXPECT_TRUE(QTest::qWaitFor([&] { return window->stacksVertically(); }, 5000));
 
@@ -226,20 +211,19 @@ TEST_F(DocumentWindowTest, SaveReopenExportAndClosePrompts) {
   typeAt(window->swiftEditor(), 0, "// kept ");
   EXPECT_TRUE(window->hasUnsavedChanges());
   EXPECT_FALSE(window->close());  // cancelled
-  fileAnswer = QString::fromStdString(path("saved"));
+  fileAnswer = qpath("saved");
   window->action("fileSave")->trigger();
   EXPECT_FALSE(window->hasUnsavedChanges());
   EXPECT_EQ(window->origin().documentPath, fileAnswer + ".svgfigurer");
   EXPECT_TRUE(window->windowTitle().startsWith("saved.svgfigurer"));
   const auto snapshot = window->document().snapshot();
 
-  fileAnswer = QString::fromStdString(path("View"));
+  fileAnswer = qpath("View");
   ASSERT_TRUE(window->exportSwift());
-  std::ifstream exported(path("View.swift"));
-  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(exported), {}), snapshot.swift);
+  EXPECT_EQ(AppTest::readFile(path("View.swift")), snapshot.swift);
   EXPECT_TRUE(window->close());
 
-  DocumentWindow* reopened = manager->openFile(QString::fromStdString(path("saved.svgfigurer")));
+  DocumentWindow* reopened = manager->openFile(qpath("saved.svgfigurer"));
   ASSERT_NE(reopened, nullptr);
   EXPECT_EQ(reopened->document().svgString(), snapshot.svg);
   EXPECT_EQ(reopened->document().swift(), snapshot.swift);
@@ -248,17 +232,16 @@ TEST_F(DocumentWindowTest, SaveReopenExportAndClosePrompts) {
 
 TEST_F(DocumentWindowTest, ImportedSVGIsSavedAsANewDocumentNeverOverTheSVG) {
   const std::string ellipse(SVGFigurerApp::exampleNamed("Simple Ellipse")->svg);
-  std::ofstream(path("art.svg")) << ellipse;
-  DocumentWindow* window = manager->openFile(QString::fromStdString(path("art.svg")));
+  AppTest::writeFile(path("art.svg"), ellipse);
+  DocumentWindow* window = manager->openFile(qpath("art.svg"));
   ASSERT_NE(window, nullptr);
   EXPECT_TRUE(window->origin().documentPath.isEmpty());
-  fileAnswer = QString::fromStdString(path("art.svgfigurer"));
+  fileAnswer = qpath("art.svgfigurer");
   window->action("fileSave")->trigger();
-  std::ifstream svg(path("art.svg"));
-  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(svg), {}), ellipse);
+  EXPECT_EQ(AppTest::readFile(path("art.svg")), ellipse);
   EXPECT_EQ(window->origin().documentPath, fileAnswer);
 
-  EXPECT_EQ(manager->openFile(QString::fromStdString(path("missing.svgfigurer"))), nullptr);
+  EXPECT_EQ(manager->openFile(qpath("missing.svgfigurer")), nullptr);
   EXPECT_EQ(errors.size(), 1);
 }
 

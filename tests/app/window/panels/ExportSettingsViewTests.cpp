@@ -8,9 +8,11 @@
 #include <QTest>
 #include <QToolButton>
 #include <functional>
+#include <sstream>
 #include <string>
 #include <vector>
 
+#include "FigurerUtilities/Transcript.h"
 #include "SVGFigurerWindow/ExportSettingsView.h"
 
 namespace {
@@ -57,124 +59,92 @@ const std::vector<std::pair<const char*, bool C::*>> checkBoxes = {
     {"indentEmptyLines", &C::indentEmptyLines},
 };
 
+// What the panel says: each section with its labels, each check box, picker, placeholder and
+// stepper name.
 TEST(ExportSettingsView, Texts) {
   Panel panel;
-  const std::vector<std::pair<QString, QStringList>> sections = {
-      {"Top Level View", {"Generated Type of Root View:", "Preview Provider:", "SwiftUI Import:"}},
-      {"Code Generation",
-       {"SVG in Comment:", "Info Comments:", "Initialization Style:", "Positioning Style:",
-        "Newline after Path.close():", "Use Hex Colors:", "Compilable Swift:",
-        "Max Fraction Digits:"}},
-      {"Indent", {"Indent Using:", "Indent:", "Indent Empty Lines:"}},
-  };
-  const auto boxes = panel.view.findChildren<QGroupBox*>();
-  ASSERT_EQ(boxes.size(), qsizetype(sections.size()));
-  for (size_t i = 0; i < sections.size(); ++i) {
-    EXPECT_EQ(boxes[i]->title(), sections[i].first);
-    QStringList labels;
-    for (const QLabel* label : boxes[i]->findChildren<QLabel*>()) labels << label->text();
-    EXPECT_EQ(labels, sections[i].second);
-  }
-
-  for (const auto& [name, setting] : checkBoxes) {
-    const QString text = setting == &C::previewProvider ? "Generate Preview Provider"
-                         : setting == &C::imports       ? "Generate SwiftUI Import"
-                                                        : "";
-    EXPECT_EQ(panel.find<QCheckBox>(name)->text(), text) << name;
-  }
-  const std::vector<std::pair<const char*, QStringList>> pickers = {
-      {"initType", {".init()", "Color()"}},
-      {"positioningType", {".padding()", ".offset()"}},
-      {"indentUsing", {"Spaces", "Tabs"}},
-  };
-  for (const auto& [name, items] : pickers) {
-    QComboBox* box = panel.find<QComboBox>(name);
-    QStringList texts;
-    for (int i = 0; i < box->count(); ++i) texts << box->itemText(i);
-    EXPECT_EQ(texts, items) << name;
-  }
-  EXPECT_EQ(panel.find<QLineEdit>("rootViewName")->placeholderText(), "ContentView");
-  EXPECT_EQ(panel.find<QWidget>("maximumFractionDigitsStepper")->accessibleName(),
-            "Fraction Digits Step");
-  EXPECT_EQ(panel.find<QWidget>("indentStepper")->accessibleName(), "Indent Step");
+  Transcript::expect("app/window/panels/data/export-settings-texts.txt", [&](const std::string&) {
+    QStringList lines;
+    for (const QGroupBox* box : panel.view.findChildren<QGroupBox*>()) {
+      QStringList labels;
+      for (const QLabel* label : box->findChildren<QLabel*>()) labels << label->text();
+      lines << box->title() + ": " + labels.join(" | ");
+    }
+    for (const auto& [name, setting] : checkBoxes) {
+      lines << QString(name) + " check box: " + panel.find<QCheckBox>(name)->text();
+    }
+    for (const char* name : {"initType", "positioningType", "indentUsing"}) {
+      QStringList items;
+      for (int i = 0; i < panel.find<QComboBox>(name)->count(); ++i)
+        items << panel.find<QComboBox>(name)->itemText(i);
+      lines << QString(name) + " picker: " + items.join(" | ");
+    }
+    lines << "rootViewName placeholder: " +
+                 panel.find<QLineEdit>("rootViewName")->placeholderText();
+    for (const char* name : {"maximumFractionDigitsStepper", "indentStepper"}) {
+      lines << QString(name) + ": " + panel.find<QWidget>(name)->accessibleName();
+    }
+    return ("> " + lines.join("\n> ") + "\n").toStdString();
+  });
 }
 
 TEST(ExportSettingsView, EachControlEditsItsOwnKeyInTheWholeRecord) {
   struct Case {
-    const char* name;
     std::function<void(Panel&)> act;
-    std::function<void(C&)> expect;
+    std::string key, value;  // the edit the record must show, as `config set` would make it
+  };
+  const auto pick = [](const char* name, int index) {
+    return [=](Panel& p) { p.find<QComboBox>(name)->setCurrentIndex(index); };
+  };
+  const auto click = [](const char* name) {
+    return [=](Panel& p) { p.find<QAbstractButton>(name)->click(); };
   };
   std::vector<Case> cases = {
-      {"rootViewName", [](Panel& p) { p.type("rootViewName", "Art"); },
-       [](C& c) { c.rootViewName = "Art"; }},
-      {"initType", [](Panel& p) { p.find<QComboBox>("initType")->setCurrentIndex(0); },
-       [](C& c) { c.initType = InitType::autoInit; }},
-      {"positioningType",
-       [](Panel& p) { p.find<QComboBox>("positioningType")->setCurrentIndex(1); },
-       [](C& c) { c.positioningType = PositioningStyle::offset; }},
-      {"indentUsing", [](Panel& p) { p.find<QComboBox>("indentUsing")->setCurrentIndex(1); },
-       [](C& c) { c.indentUsing = IndentType::tabs; }},
+      {[](Panel& p) { p.type("rootViewName", "Art"); }, "rootViewName", "Art"},
+      {pick("initType", 0), "initType", "init"},
+      {pick("positioningType", 1), "positioningType", "offset"},
+      {pick("indentUsing", 1), "indentUsing", "tabs"},
       // The fields take values the steppers would refuse.
-      {"fraction field", [](Panel& p) { p.type("maximumFractionDigits", "25"); },
-       [](C& c) { c.maximumFractionDigits = 25; }},
-      {"indent field", [](Panel& p) { p.type("indent", "-3"); }, [](C& c) { c.indent = -3; }},
-      {"fraction stepper",
-       [](Panel& p) { p.find<QToolButton>("maximumFractionDigitsStepUp")->click(); },
-       [](C& c) { c.maximumFractionDigits = 5; }},
-      {"indent stepper", [](Panel& p) { p.find<QToolButton>("indentStepDown")->click(); },
-       [](C& c) { c.indent = 1; }},
+      {[](Panel& p) { p.type("maximumFractionDigits", "25"); }, "maximumFractionDigits", "25"},
+      {[](Panel& p) { p.type("indent", "-3"); }, "indent", "-3"},
+      {click("maximumFractionDigitsStepUp"), "maximumFractionDigits", "5"},
+      {click("indentStepDown"), "indent", "1"},
   };
   for (const auto& [name, setting] : checkBoxes) {
-    cases.push_back({name, [name](Panel& p) { p.find<QCheckBox>(name)->click(); },
-                     [setting](C& c) { c.*setting = !(c.*setting); }});
+    cases.push_back({click(name), name, C::fresh().*setting ? "false" : "true"});
   }
   for (const auto& row : cases) {
     Panel panel;
     row.act(panel);
     C expected = C::fresh();
-    row.expect(expected);
-    ASSERT_FALSE(panel.edits.empty()) << row.name;
-    EXPECT_EQ(panel.edits.back(), expected) << row.name;
-    EXPECT_EQ(panel.view.config(), expected) << row.name;
+    ASSERT_FALSE(SVGFigurerApp::setConfigurationValue(expected, row.key, row.value));
+    ASSERT_FALSE(panel.edits.empty()) << row.key;
+    EXPECT_EQ(panel.edits.back(), expected) << row.key;
+    EXPECT_EQ(panel.view.config(), expected) << row.key;
   }
 }
 
+// Each input is a stepper button and the value it starts from: the value after a click, the text
+// its field then shows, and whether the click made an edit or a beep.
 TEST(ExportSettingsView, SteppersStopAtTheirLimitsWithABeep) {
-  struct Case {
-    const char* button;
-    int start;
-    int expected;
-  };
-  const std::vector<Case> cases = {
-      {"maximumFractionDigitsStepUp", 12, 13},
-      {"maximumFractionDigitsStepUp", 13, 13},
-      {"maximumFractionDigitsStepDown", 1, 0},
-      {"maximumFractionDigitsStepDown", 0, 0},
-      {"maximumFractionDigitsStepDown", 20, 19},
-      {"maximumFractionDigitsStepUp", -4, -3},
-      {"indentStepUp", 8, 9},
-      {"indentStepUp", 9, 9},
-      {"indentStepDown", 1, 0},
-      {"indentStepDown", 0, 0},
-  };
-  for (const auto& row : cases) {
-    const bool fraction = std::string(row.button).starts_with("maximumFractionDigits");
+  Transcript::expect("app/window/panels/data/steppers.txt", [](const std::string& input) {
+    std::istringstream fields(input);
+    std::string button;
+    int start = 0;
+    fields >> button >> start;
+    const bool fraction = button.starts_with("maximumFractionDigits");
     int C::*setting = fraction ? &C::maximumFractionDigits : &C::indent;
     C config;
-    config.*setting = row.start;
+    config.*setting = start;
     Panel panel(config);
-    panel.find<QToolButton>(row.button)->click();
-
-    const std::string where = std::string(row.button) + " from " + std::to_string(row.start);
-    const bool refused = row.start == row.expected;
-    EXPECT_EQ(panel.beeps, refused ? 1 : 0) << where;
-    EXPECT_EQ(panel.edits.size(), refused ? 0u : 1u) << where;
-    EXPECT_EQ(panel.view.config().*setting, row.expected) << where;
-    EXPECT_EQ(panel.find<QLineEdit>(fraction ? "maximumFractionDigits" : "indent")->text(),
-              QString::number(row.expected))
-        << where;
-  }
+    panel.find<QToolButton>(button.c_str())->click();
+    return "> " + std::to_string(panel.view.config().*setting) + ", shown " +
+           panel.find<QLineEdit>(fraction ? "maximumFractionDigits" : "indent")
+               ->text()
+               .toStdString() +
+           ", " + std::to_string(panel.edits.size()) + " edits, " + std::to_string(panel.beeps) +
+           " beeps\n";
+  });
 }
 
 TEST(ExportSettingsView, SetConfigShowsEveryKeyWithoutEmitting) {

@@ -1,5 +1,5 @@
-// The panels need a QApplication for their widgets. The offscreen platform is the default so
-// that the test listing at build time runs without a display too.
+// The panels and the code editor need a QApplication for their widgets. The offscreen platform
+// is the default so that the test listing at build time runs without a display too.
 #include <gtest/gtest.h>
 
 #include <QApplication>
