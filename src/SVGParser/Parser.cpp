@@ -699,6 +699,8 @@ struct InOrderReader::State {
   bool wrap = false;
   EventRecording::Cursor cursor;
   std::optional<Handler> handler;
+  // The root's own copy: the one on the handler's stack moves as the stack grows.
+  SVG root;
   // Where the recording cannot serve, the whole tree, whose children are handed out in turn.
   std::optional<SVG> tree;
   std::size_t nextTreeChild = 0;
@@ -742,14 +744,15 @@ std::optional<InOrderReader> InOrderReader::open(std::string_view data, const Pa
     // The root's start tag is the first event.
     pass.recording.replayNext(handler, state->cursor);
   }
-  SVG* root = handler.root();
+  const SVG* root = handler.root();
   if (root == nullptr) return std::nullopt;
-  root->definitions = std::move(rootDefinitions);
+  state->root = *root;
+  state->root.definitions = std::move(rootDefinitions);
   return InOrderReader(std::move(state));
 }
 
 const SVG& InOrderReader::root() const {
-  return state_->tree ? *state_->tree : *state_->handler->root();
+  return state_->tree ? *state_->tree : state_->root;
 }
 
 const SVG::GroupItem* InOrderReader::next() {
