@@ -47,7 +47,8 @@ fuzz: deps
 	cmake --preset fuzz
 	cmake --build --preset fuzz -j $(JOBS)
 
-bench: build
+bench: configure
+	cmake --build --preset $(PRESET) -j $(JOBS) --target svgfigurer_bench svgfigurer_synthetic svgfigurer
 	$(BUILD_DIR)/bench/svgfigurer_bench
 
 # Line and branch coverage of src/ by the whole suite; reports in build/coverage/.

@@ -3,7 +3,7 @@
 # it: `bench/memory.sh [MEGABYTES]` (default 50) for the path-heavy one, `bench/memory.sh --rects
 # [COUNT]` (default 200000) for the shape-heavy one. They are the benchmarks' synthetic
 # documents, so the figures compare with BM_EndToEnd_50MB_Streamed and BM_EndToEnd_Rects200k.
-# Builds nothing: run `make build` first (or set SVGFIGURER_BUILD to another build folder).
+# Builds nothing: run `make bench` first (or set SVGFIGURER_BUILD to another build folder).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -20,7 +20,7 @@ cli="${build}/src/cli/svgfigurer"
 synthetic="${build}/bench/svgfigurer_synthetic"
 for program in "${cli}" "${synthetic}"; do
   if [[ ! -x "${program}" ]]; then
-    echo "memory.sh: ${program} is missing; run 'make build' first" >&2
+    echo "memory.sh: ${program} is missing; run 'make bench' first" >&2
     exit 2
   fi
 done
