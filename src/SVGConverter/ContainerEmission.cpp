@@ -1,9 +1,8 @@
 // The inside of a container's view struct: statics, definitions, nested types, the resizing
 // support and the body, with the modifiers and position lines every view shares.
 #include <algorithm>
-#include <climits>
 #include <cmath>
-#include <memory>
+#include <cstdint>
 #include <numbers>
 #include <string>
 #include <type_traits>
@@ -26,46 +25,41 @@ bool hasResizable(const ContainerViewType& c) {
 void appendPositionLines(CodeGenerationStream& s, const std::optional<CGPoint>& origin,
                          const std::optional<CGSize>& size) {
   std::string line;
-  const auto number = [&](const std::optional<double>& v, std::string_view unknown) {
+  const auto append = [&](const std::optional<double>& v, std::string_view unknown) {
     if (v) {
       s.appendNumber(line, *v);
     } else {
       line += unknown;
     }
   };
+  // `head`, a, `middle`, b, `tail`; an absent number is written as `unknown`.
+  const auto pairLine = [&](std::string_view head, const std::optional<double>& a,
+                            std::string_view middle, const std::optional<double>& b,
+                            std::string_view tail, std::string_view unknown) {
+    line = head;
+    append(a, unknown);
+    line += middle;
+    append(b, unknown);
+    line += tail;
+    s.appendLine(line);
+  };
+  const auto paddingLine = [&](std::string_view head, double v) {
+    line = head;
+    s.appendNumber(line, v);
+    line += ')';
+    s.appendLine(line);
+  };
   std::optional<double> x, y, w, h;
   if (origin) x = origin->x, y = origin->y;
   if (size) w = size->width, h = size->height;
-  if (w || h) {
-    line = ".frame(width: ";
-    number(w, "nil");
-    line += ", height: ";
-    number(h, "nil");
-    line += ", alignment: .topLeading)";
-    s.appendLine(line);
-  }
+  if (w || h) pairLine(".frame(width: ", w, ", height: ", h, ", alignment: .topLeading)", "nil");
   if (!s.config().positionUsingPadding && (x || y)) {
     // An unknown coordinate stands at the parent's edge.
-    line = ".position(x: ";
-    number(x, "0");
-    line += ", y: ";
-    number(y, "0");
-    line += ')';
-    s.appendLine(line);
+    pairLine(".position(x: ", x, ", y: ", y, ")", "0");
     return;
   }
-  if (x && *x != 0) {
-    line = ".padding(.leading, ";
-    s.appendNumber(line, *x);
-    line += ')';
-    s.appendLine(line);
-  }
-  if (y && *y != 0) {
-    line = ".padding(.top, ";
-    s.appendNumber(line, *y);
-    line += ')';
-    s.appendLine(line);
-  }
+  if (x && *x != 0) paddingLine(".padding(.leading, ", *x);
+  if (y && *y != 0) paddingLine(".padding(.top, ", *y);
 }
 
 void appendCall(CodeGenerationStream& s, std::string_view typeName, bool resizable,
